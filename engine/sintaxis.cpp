@@ -121,7 +121,7 @@ bool CompruebaRangoNúmeros(Contexto& contexto, std::string& texto) {
         const std::string_view escrito = std::string_view(texto).substr(i, fin - i);
         const NúmeroLeído número = LeeNúmero(escrito);
         if (número.desborda || número.longitud != escrito.size()) {
-            texto = reescrito + texto.substr(i);
+            texto = std::move(reescrito.append(texto, i));
             contexto.ErrorCódigo = número.desborda ? Desbordamiento : ArgumentoInválido;
             contexto.Avisa(número.desborda
                                ? "Un número de doble precisión está fuera del rango permitido"
