@@ -1,5 +1,6 @@
 #include "engine/sintaxis.h"
 
+#include "engine/caracteres.h"
 #include "engine/numero.h"
 #include "engine/utf8.h"
 
@@ -8,14 +9,6 @@
 
 namespace quiralto {
 namespace {
-
-bool EsDígito(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool EsSigno(char c) {
-    return c == '+' || c == '-';
-}
 
 bool EstáEn(char c, std::string_view conjunto) {
     return conjunto.find(c) != std::string_view::npos;
@@ -165,7 +158,7 @@ std::string SimplificaSignos(std::string_view texto) {
             negativo ^= texto[i] == '-';
         if (negativo)
             plegado += '-';
-        else if (!plegado.empty() && !EstáEn(plegado.back(), "(/*^"))
+        else if (!plegado.empty() && plegado.back() != '(' && !EsOperadorFuerte(plegado.back()))
             plegado += '+';
     }
     return plegado;
