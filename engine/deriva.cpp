@@ -1,5 +1,6 @@
 #include "engine/deriva.h"
 
+#include "engine/caracteres.h"
 #include "engine/sintaxis.h"
 
 #include <algorithm>
@@ -17,14 +18,6 @@ constexpr char Abre = '\x01';
 constexpr char Cierra = '\x02';
 
 constexpr std::size_t MáximoOperadores = 2'000'000; // bounds the memory of the analysis
-
-bool EsSigno(char c) {
-    return c == '+' || c == '-';
-}
-
-bool EsOperadorFuerte(char c) {
-    return c == '*' || c == '/' || c == '^';
-}
 
 [[noreturn]] void RechazaTexto() {
     throw ErrorEjecución(ArgumentoInválido);
@@ -299,7 +292,7 @@ void Derivador::DerivaTrozo(Trozo t) {
     const char c = f_[t.principio];
     if (Texto(t) == "X")
         return Pon("1");
-    if (c == '.' || (c >= '0' && c <= '9'))
+    if (c == '.' || EsDígito(c))
         return Pon("0");
     DerivaFunción(t);
 }
