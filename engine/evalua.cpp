@@ -126,6 +126,11 @@ bool EscondeFallos(Operación código, bool operandoDerecho) {
     }
 }
 
+bool EstáEnLaTabla(Operación código) {
+    return std::ranges::find(TablaOperaciones, código, &DescripciónOperación::código) !=
+           TablaOperaciones.end();
+}
+
 class Planificador {
 public:
     Planificador(Contexto& contexto, const Programa& programa)
@@ -155,6 +160,8 @@ private:
     }
 
     bool Añade(const Instrucción& instrucción) {
+        if (!EstáEnLaTabla(instrucción.código))
+            return true;
         const bool binaria = instrucción.código <= Operación::Potencia;
         const Operando izquierdo = binaria ? operandos_[Índice(instrucción.izquierdo)] : Operando{};
         const Operando derecho = operandos_[Índice(instrucción.derecho)];
