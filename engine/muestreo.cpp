@@ -28,10 +28,12 @@ std::vector<double> DevEquis(const Ventana& ventana, int cantidadPuntos) {
     const double paso = (ventana.XMáx - ventana.XMín) / cantidadPuntos;
     std::vector<double> equis;
     equis.reserve(static_cast<std::size_t>(cantidadPuntos) + 2);
-    for (double x = ventana.XMín; x <= ventana.XMáx; x += paso) {
+    double x = ventana.XMín;
+    while (x <= ventana.XMáx) {
         equis.push_back(x);
         if (x + paso == x)
             throw ErrorEjecución(Desbordamiento);
+        x += paso;
     }
     return equis;
 }
