@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <ranges>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -55,9 +56,9 @@ private:
             if (!TrasUnoDe(t, p, "E"))
                 return con(p, Suma);
         const std::vector<std::size_t> menos = Fuera(t, '-');
-        for (auto p = menos.rbegin(); p != menos.rend(); ++p)
-            if (*p != 0 && !TrasUnoDe(t, *p, "E*/^"))
-                return con(*p, Resta);
+        for (const std::size_t p : std::views::reverse(menos))
+            if (p != 0 && !TrasUnoDe(t, p, "E*/^"))
+                return con(p, Resta);
         if (const auto p = Fuera(t, '*'); !p.empty())
             return con(p.front(), Producto);
         if (const auto p = Fuera(t, '/'); !p.empty())
