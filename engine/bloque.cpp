@@ -57,7 +57,7 @@ QUIRALTO_EN_LÍNEA void AplicaPotencia(const Filas& filas, const Paso& paso) {
     case 8:
         return Aplica(destino, base, [](double a) { return PotenciaEntera<8>(a); });
     default:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return std::pow(a, b); });
+        return AplicaBinaria(filas, paso, [](double a, double b) { return DevPotencia(a, b); });
     }
 }
 

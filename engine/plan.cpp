@@ -68,8 +68,9 @@ private:
         const Operando izquierdo = binaria ? operando(instrucción.izquierdo) : Operando{};
         Operando derecho = operando(instrucción.derecho);
         Operando& resultado = operandos_[static_cast<std::size_t>(instrucción.resultado)];
-        if (instrucción.código == Operación::Sln)
-            return false; // its random values have an order
+        // The random values of SLN have an order, and a code outside the table does nothing.
+        if (instrucción.código < Operación::Suma || instrucción.código > Operación::Arcsin)
+            return false;
         if (!izquierdo.esFila && !derecho.esFila) {
             resultado.valor = Opera(instrucción.código, izquierdo.valor, derecho.valor,
                                     resultado.valor, [](double a) { return a; });

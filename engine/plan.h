@@ -36,9 +36,9 @@ struct Plan {
 };
 
 // True and the plan, or false where the program is to be run value by value: it does not depend on
-// X, a constant instruction of it has a fault, it draws random numbers, or it would need too many
-// rows. Equal instructions on equal operands are planned once; all else gives the bits of the
-// program as it stands.
+// X, a constant instruction of it has a fault, it draws random numbers, it holds a code outside the
+// table, or it would need too many rows. Equal instructions on equal operands are planned once; all
+// else gives the bits of the program as it stands.
 bool PlaneaBloque(const Programa& programa, Plan& plan);
 
 } // namespace quiralto
