@@ -158,9 +158,11 @@ TEST(EvalúaPrograma, CalculaLasFunciones) {
     Banco banco;
     for (const auto& caso : casos) {
         Programa programa = CompilaExpresión(caso.texto);
-        for (double x = 0.0625; x < 1; x += 0.0625)
+        for (int i = 1; i < 16; ++i) {
+            const double x = i / 16.0;
             EXPECT_NEAR(EvalúaPrograma(banco.contexto, programa, x), caso.f(x), 1e-14)
                 << caso.texto << x;
+        }
     }
     EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
 }
