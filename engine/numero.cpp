@@ -1,5 +1,6 @@
 #include "engine/numero.h"
 
+#include "engine/caracteres.h"
 #include "engine/error_ejecucion.h"
 
 #include <algorithm>
@@ -50,10 +51,6 @@ std::string TextoExponente(int exponente) {
     if (cifras.size() < 2)
         texto += '0';
     return texto + cifras;
-}
-
-bool EsDígito(char c) {
-    return c >= '0' && c <= '9';
 }
 
 // Position behind the run of digits that begins at i.
