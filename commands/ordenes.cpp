@@ -1,6 +1,8 @@
 #include "commands/ordenes.h"
 
 #include "commands/analisis.h"
+#include "commands/calculo.h"
+#include "commands/desarrollos.h"
 
 #include <algorithm>
 #include <array>
@@ -10,6 +12,9 @@ namespace quiralto {
 namespace {
 
 constexpr std::string_view Numérico = "Cálculo numérico con una variable";
+constexpr std::string_view Simbólico = "Cálculo simbólico con una variable";
+constexpr std::string_view Multivariable = "Cálculo simbólico con más de una variable";
+constexpr std::string_view Función = "f(x)";
 constexpr std::string_view FunciónYExtremos = "f(x),extremo1,extremo2";
 
 constexpr std::array Órdenes = {
@@ -23,6 +28,19 @@ constexpr std::array Órdenes = {
           "X^3,-1,1", ResolverPuntosInflexión},
     Orden{"Hallar área", Numérico, "Hallar área en un intervalo", FunciónYExtremos, "X,0,1",
           ResolverArea},
+    Orden{"Derivar", Simbólico, "Hallar derivada", Función, "X*EXP(X)", ResolverDerivada},
+    Orden{"Hallar tangente", Simbólico, "Hallar la ecuación de la tangente a un punto",
+          "f(x),punto", "X^2,3", ResolverTangente},
+    Orden{"Hallar secante", Simbólico, "Hallar la ecuación de la secante a dos puntos",
+          FunciónYExtremos, "X^2,1,3", ResolverSecante},
+    Orden{"Desarrollo completo", Simbólico, "Desarrollar totalmente", Función, "X/2+X^2/3",
+          ResolverDesarrolloCompleto},
+    Orden{"Desarrollo simplificado", Simbólico, "Desarrollar simplificadamente", Función, "(X+1)^3",
+          ResolverDesarrolloSimplificado},
+    Orden{"Desarrollo completo multivariable", Multivariable, "Desarrollar totalmente",
+          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloCompletoMultivariable},
+    Orden{"Desarrollo simplificado multivariable", Multivariable, "Desarrollar simplificadamente",
+          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloSimplificadoMultivariable},
 };
 
 } // namespace

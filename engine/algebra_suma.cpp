@@ -3,6 +3,7 @@
 #include "engine/aritmetica.h"
 #include "engine/division_suma.h"
 #include "engine/escribe_suma.h"
+#include "engine/multinomio.h"
 #include "engine/numero.h"
 #include "engine/semejantes.h"
 
@@ -140,6 +141,9 @@ Términos ElevaTérmino(TablaSímbolos& tabla, const Término& término, double 
 }
 
 Términos ElevaProducto(TablaSímbolos& tabla, const Términos& base, double n) {
+    if (n > 1)
+        if (auto potencia = ElevaPorMultinomio(tabla, base, n))
+            return Reduce(tabla, std::move(*potencia));
     // From the highest binary digit of n down: square, and multiply by the base where it is 1.
     double dígito = std::exp2(std::floor(std::log2(n)));
     Términos potencia = base;

@@ -164,11 +164,15 @@ void Escritor::EscribeSumaExponente(std::span<const Factor> factores, double esc
         }
         if (coeficiente < 0)
             texto += '-';
+        const bool esInverso = literal.starts_with("1/"); // 2*1/Y is 2/Y
         if (std::fabs(coeficiente) != 1) {
             EscribeNúmero(std::fabs(coeficiente));
-            texto += '*';
+            if (!esInverso)
+                texto += '*';
+        } else if (esInverso) {
+            texto += '1';
         }
-        texto += literal;
+        texto.append(literal, esInverso ? 1 : 0);
     }
     if (esPrimero)
         texto += '0';

@@ -1,15 +1,12 @@
 #include "engine/separa.h"
 
+#include "engine/caracteres.h"
 #include "engine/numero.h"
 
 #include <algorithm>
 
 namespace quiralto {
 namespace {
-
-bool EsSigno(char c) {
-    return c == '+' || c == '-';
-}
 
 // Calls f with the position of every character outside parentheses; a parenthesis is not outside.
 template <typename F> void RecorreFuera(std::string_view texto, F f) {
@@ -42,8 +39,8 @@ std::vector<std::string> Corta(std::string_view texto, const std::vector<std::si
 std::vector<std::string> SeparaTérminos(std::string_view texto) {
     std::vector<std::size_t> cortes;
     RecorreFuera(texto, [&](std::size_t i) {
-        if (i > 0 && EsSigno(texto[i]) &&
-            std::string_view("*/^DE").find(texto[i - 1]) == std::string_view::npos)
+        if (i > 0 && EsSigno(texto[i]) && !EsOperadorFuerte(texto[i - 1]) && texto[i - 1] != 'D' &&
+            texto[i - 1] != 'E')
             cortes.push_back(i);
     });
     return texto.empty() ? std::vector<std::string>{} : Corta(texto, cortes, 0);

@@ -124,13 +124,16 @@ void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Li
 }
 
 std::uint64_t DevHash(const Literal& literal) {
+    // The exponents differ in their highest bits, the table takes the lowest.
     std::uint64_t hash = 0;
     for (const Factor& factor : literal) {
         std::uint64_t h = std::bit_cast<std::uint64_t>(factor.exponente);
-        h = (h ^ (std::uint64_t{factor.símbolo} * 0x9E3779B97F4A7C15U)) * 0xD6E8FEB86659FD93U;
+        h = (h ^ h >> 32) + std::uint64_t{factor.símbolo} * 0x9E3779B97F4A7C15U;
+        h *= 0xD6E8FEB86659FD93U;
+        h = (h ^ h >> 32) * 0xD6E8FEB86659FD93U;
         hash += h ^ h >> 32;
     }
-    return hash * 0x9E3779B97F4A7C15U;
+    return hash;
 }
 
 std::size_t FinDeBase(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde) {
