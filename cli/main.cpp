@@ -1,6 +1,7 @@
 // quiralto-cli: the commands of the worksheet without a window.
 
 #include "cli/opciones.h"
+#include "commands/fichero_primos.h"
 #include "commands/ordenes.h"
 #include "engine/compila.h"
 #include "engine/deriva.h"
@@ -41,7 +42,10 @@ public:
     bool Continúa() override { return true; }
 };
 
-Estado RechazaUso(std::string_view esperado) {
+// One line, whatever the words of the call that it repeats.
+Estado RechazaUso(std::string esperado) {
+    const auto esDeControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; };
+    std::ranges::replace_if(esperado, esDeControl, '?');
     std::cerr << "quiralto-cli: " << esperado << '\n';
     return MalUso;
 }
@@ -55,13 +59,18 @@ std::string TextoGeneral(double valor, int dígitos) {
 }
 
 std::optional<std::string> LeeHoja(const std::optional<std::string>& fichero) {
-    if (!fichero || *fichero == "-")
-        return std::string(std::istreambuf_iterator<char>(std::cin), {});
-    std::ifstream entrada(*fichero, std::ios::binary);
-    std::string texto{std::istreambuf_iterator<char>(entrada), {}};
+    std::ifstream abierto;
+    const bool deFichero = fichero && *fichero != "-";
+    if (deFichero)
+        abierto.open(*fichero, std::ios::binary);
+    std::istream& entrada = deFichero ? abierto : std::cin;
     if (!entrada)
         return std::nullopt;
-    return texto;
+    try {
+        return std::string(std::istreambuf_iterator<char>(entrada), {});
+    } catch (const std::ios_base::failure&) { // a folder, say
+        return std::nullopt;
+    }
 }
 
 Estado EjecutaOrden(Contexto& contexto, const Opciones& opciones) {
@@ -71,13 +80,14 @@ Estado EjecutaOrden(Contexto& contexto, const Opciones& opciones) {
                           opciones.argumento);
     std::optional<std::string> texto = LeeHoja(opciones.hoja);
     if (!texto)
-        return RechazaUso("no se puede leer la hoja " + *opciones.hoja);
+        return RechazaUso("no se puede leer la hoja " + opciones.hoja.value_or("-"));
     if (!EsUtf8(*texto))
         return RechazaUso("se esperaba una hoja en UTF-8");
     constexpr std::string_view MarcaDeOrden = "\xEF\xBB\xBF"; // byte order mark
     if (texto->starts_with(MarcaDeOrden))
         texto->erase(0, MarcaDeOrden.size());
     Hoja hoja{.texto = ConCrLf(*texto), .líneas = {}, .líneaSeleccionada = {}};
+    CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
     EjecutaInstrucciones(contexto, hoja, opciones.argumento);
     if (hoja.líneaSeleccionada)
         std::cerr << "línea: " << *hoja.líneaSeleccionada << '\n';
@@ -162,6 +172,8 @@ int Principal(const std::vector<std::string>& palabras) {
     contexto.DígitosRedondeo = opciones->cifras;
     Estado estado = SinMensajes;
     EjecutaConTrampa(contexto, [&] { estado = Ejecuta(contexto, *opciones); });
+    if (!std::cout.flush())
+        return RechazaUso("no se puede escribir en la salida estándar");
     return estado == SinMensajes ? mensajes.DevEstado() : estado;
 }
 

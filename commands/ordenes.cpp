@@ -1,6 +1,7 @@
 #include "commands/ordenes.h"
 
 #include "commands/analisis.h"
+#include "commands/numeros.h"
 
 #include <algorithm>
 #include <array>
@@ -9,10 +10,21 @@
 namespace quiralto {
 namespace {
 
+constexpr std::string_view Números = "Números";
 constexpr std::string_view Numérico = "Cálculo numérico con una variable";
 constexpr std::string_view FunciónYExtremos = "f(x),extremo1,extremo2";
 
 constexpr std::array Órdenes = {
+    Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", "enteros", "12,18",
+          ResolverMcdNúmeros},
+    Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", "enteros",
+          "12,18", ResolverMcmNúmeros},
+    Orden{"Hallar divisores", Números, "Hallar divisores", "entero", "360",
+          ResolverDivisoresNúmero},
+    Orden{"Hallar factores primos", Números, "Descomponer en factores primos", "entero", "360",
+          ResolverDescomposiciónEnFactoresPrimos},
+    Orden{"Hallar números primos", Números, "Hallar números primos", "entero,entero", "2,100",
+          ResolverNúmerosPrimos},
     Orden{"Hallar soluciones ecuación", Numérico, "Hallar soluciones", FunciónYExtremos,
           "X^2-4,-5,5", ResolverSolucionesEcuación},
     Orden{"Hallar máximos", Numérico, "Hallar máximos", FunciónYExtremos, "X^3-3*X,-5,5",
@@ -23,6 +35,9 @@ constexpr std::array Órdenes = {
           "X^3,-1,1", ResolverPuntosInflexión},
     Orden{"Hallar área", Numérico, "Hallar área en un intervalo", FunciónYExtremos, "X,0,1",
           ResolverArea},
+    Orden{"Convertir coeficientes a fracción continua", Números,
+          "Convertir coeficienes a fracción continua", "f(x)", ".5*X^2+.125*X",
+          ResoverConvertirCoeficientesFracciónContinua},
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 // same bits. Inline, for the two of them only.
 #pragma once
 
-#include "engine/error_ejecucion.h"
+#include "engine/operaciones.h"
 
 #include <cmath>
 #include <cstdint>
@@ -63,6 +63,46 @@ inline double DevCosecante(double a) {
 inline double DevArcoseno(double a) {
     const double raíz = std::sqrt(1 - a * a);
     return raíz == 0 ? a / raíz : std::atan(a / raíz);
+}
+
+// One instruction on two values; `sln` is what SLN does. A code outside the table gives `actual`.
+template <typename Sln>
+inline double Opera(Operación código, double izquierdo, double derecho, double actual, Sln sln) {
+    switch (código) {
+    case Operación::Suma:
+        return izquierdo + derecho;
+    case Operación::Resta:
+        return izquierdo - derecho;
+    case Operación::Producto:
+        return izquierdo * derecho;
+    case Operación::Cociente:
+        return izquierdo / derecho;
+    case Operación::Potencia:
+        return DevPotencia(izquierdo, derecho);
+    case Operación::Log:
+        return std::log(derecho);
+    case Operación::Sin:
+        return std::sin(derecho);
+    case Operación::Cos:
+        return std::cos(derecho);
+    case Operación::Tan:
+        return std::tan(derecho);
+    case Operación::Atn:
+        return std::atan(derecho);
+    case Operación::Exp:
+        return std::exp(derecho);
+    case Operación::Sqr:
+        return std::sqrt(derecho);
+    case Operación::Sec:
+        return DevSecante(derecho);
+    case Operación::Cosec:
+        return DevCosecante(derecho);
+    case Operación::Arcsin:
+        return DevArcoseno(derecho);
+    case Operación::Sln:
+        return sln(derecho);
+    }
+    return actual;
 }
 
 } // namespace quiralto

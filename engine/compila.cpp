@@ -2,7 +2,6 @@
 
 #include "engine/error_ejecucion.h"
 #include "engine/numero.h"
-#include "engine/sintaxis.h"
 
 #include <algorithm>
 #include <array>
@@ -20,6 +19,12 @@ struct Pieza {
     std::int16_t registro{}; // of Registro
     double número{};         // of Número
 };
+
+// The order in which the functions of a group are compiled.
+constexpr std::array OrdenFunciones = {Operación::Arcsin, Operación::Cosec, Operación::Log,
+                                       Operación::Sin,    Operación::Cos,   Operación::Tan,
+                                       Operación::Atn,    Operación::Exp,   Operación::Sqr,
+                                       Operación::Sec,    Operación::Sln};
 
 [[noreturn]] void RechazaTexto() {
     throw ErrorEjecución(ArgumentoInválido);
@@ -174,14 +179,12 @@ void Compilador::CompilaGrupo(std::size_t principio) {
 
 void Compilador::CompilaFunciones(std::size_t principio) {
     // The functions of the group by name, so that the passes together look at each of them once.
-    std::array<std::vector<std::size_t>, NombresFunción.size() + 1> lugares;
+    std::array<std::vector<std::size_t>, OrdenFunciones.size()> lugares;
     for (std::size_t i = principio; i < piezas_.size(); ++i) {
         if (piezas_[i].clase != Pieza::Clase::Función)
             continue;
-        const auto descripción =
-            std::ranges::find(TablaOperaciones, piezas_[i].código, &DescripciónOperación::código);
-        const auto orden = std::ranges::find(NombresFunción, descripción->nombre);
-        lugares[static_cast<std::size_t>(orden - NombresFunción.begin())].push_back(i);
+        const auto orden = std::ranges::find(OrdenFunciones, piezas_[i].código);
+        lugares[static_cast<std::size_t>(orden - OrdenFunciones.begin())].push_back(i);
     }
     bool hubo = false;
     for (const auto& delNombre : lugares) {

@@ -1,5 +1,6 @@
 #include "engine/numero.h"
 
+#include "engine/caracteres.h"
 #include "engine/error_ejecucion.h"
 
 #include <algorithm>
@@ -50,10 +51,6 @@ std::string TextoExponente(int exponente) {
     if (cifras.size() < 2)
         texto += '0';
     return texto + cifras;
-}
-
-bool EsDígito(char c) {
-    return c >= '0' && c <= '9';
 }
 
 // Position behind the run of digits that begins at i.
@@ -180,6 +177,22 @@ double Val(std::string_view texto) {
 int DecimalesNúmero(double valor) {
     CompruebaFinito(valor);
     return valor == 0 ? 0 : DevFormaDecimal(std::fabs(valor)).Decimales();
+}
+
+FormaEntera DevFormaEntera(double valor) {
+    constexpr double MáximoEntero = 9007199254740992; // 2^53
+    const double absoluto = std::fabs(CompruebaFinito(valor));
+    if (absoluto <= MáximoEntero && std::trunc(absoluto) == absoluto)
+        return {static_cast<std::int64_t>(absoluto), 0};
+    const FormaDecimal decimal = DevFormaDecimal(absoluto);
+    FormaEntera forma{0, decimal.exponente - (decimal.cantidad - 1)};
+    std::from_chars(decimal.dígitos.data(), decimal.dígitos.data() + decimal.cantidad,
+                    forma.mantisa);
+    return forma;
+}
+
+double DevDoble(const FormaEntera& forma) {
+    return Val(std::to_string(forma.mantisa) + 'E' + std::to_string(forma.exponente));
 }
 
 double Redondea(double valor, int dígitos) {

@@ -1,5 +1,6 @@
 #include "engine/sintaxis.h"
 
+#include "engine/caracteres.h"
 #include "engine/numero.h"
 #include "engine/utf8.h"
 
@@ -8,14 +9,6 @@
 
 namespace quiralto {
 namespace {
-
-bool EsDígito(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool EsSigno(char c) {
-    return c == '+' || c == '-';
-}
 
 bool EstáEn(char c, std::string_view conjunto) {
     return conjunto.find(c) != std::string_view::npos;
@@ -121,7 +114,7 @@ bool CompruebaRangoNúmeros(Contexto& contexto, std::string& texto) {
         const std::string_view escrito = std::string_view(texto).substr(i, fin - i);
         const NúmeroLeído número = LeeNúmero(escrito);
         if (número.desborda || número.longitud != escrito.size()) {
-            texto = reescrito + texto.substr(i);
+            texto = std::move(reescrito.append(texto, i));
             contexto.ErrorCódigo = número.desborda ? Desbordamiento : ArgumentoInválido;
             contexto.Avisa(número.desborda
                                ? "Un número de doble precisión está fuera del rango permitido"
@@ -165,7 +158,7 @@ std::string SimplificaSignos(std::string_view texto) {
             negativo ^= texto[i] == '-';
         if (negativo)
             plegado += '-';
-        else if (!plegado.empty() && !EstáEn(plegado.back(), "(/*^"))
+        else if (!plegado.empty() && plegado.back() != '(' && !EsOperadorFuerte(plegado.back()))
             plegado += '+';
     }
     return plegado;

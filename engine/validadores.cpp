@@ -1,5 +1,6 @@
 #include "engine/validadores.h"
 
+#include "engine/caracteres.h"
 #include "engine/compila.h"
 #include "engine/evalua.h"
 #include "engine/numero.h"
@@ -11,10 +12,6 @@
 
 namespace quiralto {
 namespace {
-
-bool EsDígito(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool CabeEnEnteroLargo(std::string_view texto) {
     std::int32_t valor = 0;

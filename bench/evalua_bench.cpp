@@ -1,0 +1,115 @@
+// Nanoseconds a point over 4801 points: the block and the scalar run, the same function as compiled
+// C++, and muParser.
+
+#include "bench/evalua_nativa.h"
+#include "engine/compila.h"
+#include "engine/evalua.h"
+#include "engine/sintaxis.h"
+
+#include <benchmark/benchmark.h>
+#include <muParser.h>
+
+#include <string>
+#include <vector>
+
+namespace quiralto::bench {
+namespace {
+
+constexpr std::size_t CantidadPuntos = 4801;
+
+class Silencio : public Mensajes {
+    void Muestra(Icono, std::string_view) override {}
+};
+class SinVigilante : public Vigilante {
+    bool Continúa() override { return true; }
+};
+
+struct Banco {
+    Silencio mensajes;
+    SinVigilante vigilante;
+    Contexto contexto{mensajes, vigilante};
+    std::vector<double> equis = std::vector<double>(CantidadPuntos);
+    std::vector<double> valores = std::vector<double>(CantidadPuntos);
+    std::vector<std::int16_t> fallos = std::vector<std::int16_t>(CantidadPuntos);
+
+    Banco() {
+        for (std::size_t i = 0; i < CantidadPuntos; ++i)
+            equis[i] = -10 + 20 * static_cast<double>(i) / (CantidadPuntos - 1);
+    }
+
+    Programa Compila(const char* texto) {
+        std::string f = texto;
+        Sintaxis(contexto, f);
+        return CompilaExpresión(f);
+    }
+};
+
+const Función& FunciónDe(const benchmark::State& estado) {
+    return Funciones[static_cast<std::size_t>(estado.range(0))];
+}
+
+void Anota(benchmark::State& estado) {
+    estado.SetLabel(FunciónDe(estado).texto);
+    estado.counters["por_punto"] = benchmark::Counter(
+        static_cast<double>(CantidadPuntos),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+void Nativa(benchmark::State& estado) {
+    Banco banco;
+    for ([[maybe_unused]] auto vuelta : estado) {
+        FunciónDe(estado).nativa(banco.equis, banco.valores);
+        benchmark::DoNotOptimize(banco.valores.data());
+        benchmark::ClobberMemory();
+    }
+    Anota(estado);
+}
+
+void Bloque(benchmark::State& estado) {
+    Banco banco;
+    const Programa programa = banco.Compila(FunciónDe(estado).texto);
+    for ([[maybe_unused]] auto vuelta : estado) {
+        EvalúaBloque(banco.contexto, programa, banco.equis, banco.valores, banco.fallos);
+        benchmark::DoNotOptimize(banco.valores.data());
+        benchmark::ClobberMemory();
+    }
+    Anota(estado);
+}
+
+void Escalar(benchmark::State& estado) {
+    Banco banco;
+    Programa programa = banco.Compila(FunciónDe(estado).texto);
+    for ([[maybe_unused]] auto vuelta : estado) {
+        for (std::size_t i = 0; i < CantidadPuntos; ++i)
+            banco.valores[i] = EvalúaPrograma(banco.contexto, programa, banco.equis[i]);
+        benchmark::DoNotOptimize(banco.valores.data());
+        benchmark::ClobberMemory();
+    }
+    Anota(estado);
+}
+
+void MuParser(benchmark::State& estado) {
+    Banco banco;
+    double x = 0;
+    mu::Parser analizador;
+    analizador.DefineVar("X", &x);
+    analizador.SetExpr(FunciónDe(estado).muparser);
+    for ([[maybe_unused]] auto vuelta : estado) {
+        for (std::size_t i = 0; i < CantidadPuntos; ++i) {
+            x = banco.equis[i];
+            banco.valores[i] = analizador.Eval();
+        }
+        benchmark::DoNotOptimize(banco.valores.data());
+        benchmark::ClobberMemory();
+    }
+    Anota(estado);
+}
+
+constexpr int Última = static_cast<int>(Funciones.size()) - 1;
+BENCHMARK(Nativa)->DenseRange(0, Última);
+BENCHMARK(Bloque)->DenseRange(0, Última);
+BENCHMARK(Escalar)->DenseRange(0, Última);
+BENCHMARK(MuParser)->DenseRange(0, Última);
+
+} // namespace
+} // namespace quiralto::bench
