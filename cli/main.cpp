@@ -42,7 +42,10 @@ public:
     bool Continúa() override { return true; }
 };
 
-Estado RechazaUso(std::string_view esperado) {
+// One line, whatever the words of the call that it repeats.
+Estado RechazaUso(std::string esperado) {
+    const auto esDeControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; };
+    std::ranges::replace_if(esperado, esDeControl, '?');
     std::cerr << "quiralto-cli: " << esperado << '\n';
     return MalUso;
 }

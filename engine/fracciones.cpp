@@ -1,5 +1,6 @@
 #include "engine/fracciones.h"
 
+#include "engine/caracteres.h"
 #include "engine/numero.h"
 
 #include <cmath>
@@ -41,7 +42,7 @@ std::string TextoCociente(double p, double q) {
 }
 
 bool EmpiezaNúmero(char c) {
-    return (c >= '0' && c <= '9') || c == '.';
+    return EsDígito(c) || c == '.';
 }
 
 } // namespace

@@ -16,9 +16,16 @@ float DevYMarcada(const Ventana& ventana, double valor) {
     return static_cast<float>(s);
 }
 
+// Whatever lies inside a window that passes has a finite place in the drawing scale.
+void CompruebaVentana(const Ventana& ventana) {
+    CompruebaFinito(2 * MediaEscala * (ventana.XMáx - ventana.XMín));
+    if (CompruebaFinito(2 * MediaEscala * (ventana.YMáx - ventana.YMín)) == 0)
+        throw ErrorEjecución(Desbordamiento);
+}
+
 // The values of X that are sampled.
 std::vector<double> DevEquis(const Ventana& ventana, int cantidadPuntos) {
-    const double paso = CompruebaFinito(ventana.XMáx - ventana.XMín) / cantidadPuntos;
+    const double paso = (ventana.XMáx - ventana.XMín) / cantidadPuntos;
     std::vector<double> equis;
     equis.reserve(static_cast<std::size_t>(cantidadPuntos) + 2);
     double x = ventana.XMín;
@@ -47,7 +54,7 @@ double DevXfísico(const Ventana& ventana, double s) {
 
 std::vector<Punto> CargaPuntos(Contexto& contexto, const Programa& programa, const Ventana& ventana,
                                int cantidadPuntos) {
-    CompruebaFinito(ventana.YMáx - ventana.YMín);
+    CompruebaVentana(ventana);
     const std::vector<double> equis = DevEquis(ventana, cantidadPuntos);
     std::vector<double> valores(equis.size());
     std::vector<std::int16_t> fallos(equis.size());

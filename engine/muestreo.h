@@ -36,8 +36,8 @@ struct Punto {
 
 // Samples the program from XMín to XMáx in cantidadPuntos (1 to MáximoCantidadPuntos) steps that
 // are added up, so normally cantidadPuntos + 1 samples; a point without a value is left out.
-// ErrorCódigo is left alone. Fault: run-time error 6 where the window is too wide for a Double, or
-// so narrow that the step no longer changes X.
+// ErrorCódigo is left alone. Fault: run-time error 6 where the window is too wide for a Double, has
+// no height, or is so narrow that the step no longer changes X.
 std::vector<Punto> CargaPuntos(Contexto& contexto, const Programa& programa, const Ventana& ventana,
                                int cantidadPuntos);
 

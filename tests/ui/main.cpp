@@ -1,0 +1,16 @@
+// The tests of the window: on the offscreen platform, with the application prepared as the program
+// prepares it.
+
+#include "tests/ui/dialogos.h"
+#include "ui/aplicacion.h"
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication aplicación(argc, argv);
+    quiralto::PreparaAplicación(aplicación);
+    testing::InitGoogleTest(&argc, argv);
+    const quiralto::VigíaDeDiálogos vigía;
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,135 @@
+// What the worksheet makes of keys, dead keys, pasted and dropped text.
+
+#include "tests/ui/ventana_de_prueba.h"
+#include "ui/teclas.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+
+namespace quiralto {
+namespace {
+
+class Teclas : public testing::Test {
+protected:
+    Teclas() {
+        caja.show();
+        QApplication::setActiveWindow(&caja);
+        caja.setFocus();
+    }
+    // QTest's own knows ASCII alone.
+    void Teclea(const QString& texto) {
+        for (const uint código : texto.toUcs4()) {
+            const auto carácter = static_cast<char32_t>(código);
+            QKeyEvent suceso(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUcs4(&carácter, 1));
+            QApplication::sendEvent(&caja, &suceso);
+        }
+    }
+    void Pega(const QString& texto) {
+        QApplication::clipboard()->setText(texto);
+        QTest::keyClick(&caja, Qt::Key_V, Qt::ControlModifier);
+    }
+
+    int pitidos = 0;
+    CajaHoja caja{nullptr, [this] { ++pitidos; }};
+};
+
+TEST_F(Teclas, LasLetrasSeHacenMayúsculas) {
+    Teclea(QStringLiteral("sin(x)+ñáþ÷'a"));
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("SIN(X)+ÑÁÞ÷'A"));
+    EXPECT_EQ(pitidos, 0);
+}
+
+TEST_F(Teclas, LosBlancosYLoQuePasaDe254SeTraganConPitido) {
+    Teclea(QStringLiteral(" ÿ€ž😀"));
+    EXPECT_EQ(caja.toPlainText(), QString());
+    EXPECT_EQ(pitidos, 5);
+}
+
+TEST_F(Teclas, LasTeclasDeEdiciónVanPorSuCamino) {
+    QTest::keyClicks(&caja, QStringLiteral("ab"));
+    QTest::keyClick(&caja, Qt::Key_Return);
+    QTest::keyClicks(&caja, QStringLiteral("cd"));
+    QTest::keyClick(&caja, Qt::Key_Backspace);
+    QTest::keyClick(&caja, Qt::Key_Home);
+    QTest::keyClick(&caja, Qt::Key_Delete);
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("AB\n"));
+    QTest::keyClick(&caja, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&caja, Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(caja.toPlainText(), QString());
+    QTest::keyClick(&caja, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("AB\n"));
+    EXPECT_EQ(pitidos, 0);
+}
+
+TEST_F(Teclas, AltConUnaLetraNoEscribe) {
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier);
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(caja.toPlainText(), QString());
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier | Qt::ControlModifier); // AltGr
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("J"));
+}
+
+TEST_F(Teclas, IntroConMayúsculasEsIntro) {
+    QTest::keyClicks(&caja, QStringLiteral("a"));
+    QTest::keyClick(&caja, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&caja, QStringLiteral("b"));
+    QTest::keyClick(&caja, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(caja.DevTexto(), "A\r\nB\r\n");
+}
+
+TEST_F(Teclas, ElTabuladorMueveElFoco) {
+    QWidget ventana;
+    auto* hoja = new CajaHoja(&ventana);
+    auto* otra = new QPlainTextEdit(&ventana);
+    ventana.show();
+    QApplication::setActiveWindow(&ventana);
+    hoja->setFocus();
+    QTest::keyClick(hoja, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), otra);
+    EXPECT_EQ(hoja->toPlainText(), QString());
+}
+
+TEST_F(Teclas, LasTeclasMuertasPasanPorElFiltro) {
+    QInputMethodEvent suceso;
+    suceso.setCommitString(QStringLiteral("é x"));
+    QApplication::sendEvent(&caja, &suceso);
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("ÉX"));
+    EXPECT_EQ(pitidos, 1);
+}
+
+TEST_F(Teclas, LoPegadoSeHaceMayúsculasHastaElApóstrofo) {
+    Pega(QStringLiteral("sin(x), 1 'nota ñ\n  'otra nota\nx^2,ñ\r\ncos(x)'fin"));
+    EXPECT_EQ(caja.toPlainText(),
+              QStringLiteral("SIN(X), 1 'nota ñ\n  'otra nota\nX^2,Ñ\nCOS(X)'fin"));
+    EXPECT_EQ(pitidos, 0);
+    QTest::keyClick(&caja, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(caja.toPlainText(), QString());
+}
+
+TEST_F(Teclas, LoPegadoEnUnComentarioQuedaComoEstá) {
+    caja.setPlainText(QStringLiteral("'nota de \nx"));
+    QTextCursor cursor(caja.document());
+    cursor.setPosition(9);
+    caja.setTextCursor(cursor);
+    Pega(QStringLiteral("hoy\ny+"));
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("'nota de hoy\nY+\nx"));
+}
+
+TEST_F(Teclas, LoSoltadoSeHaceMayúsculas) {
+    QMimeData datos;
+    datos.setText(QStringLiteral("x+e"));
+    QDragEnterEvent entrada(QPoint(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(caja.viewport(), &entrada);
+    QDropEvent suceso(QPointF(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(caja.viewport(), &suceso);
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("X+E"));
+}
+
+TEST_F(Teclas, LaHojaSeLeeConCrLfYTalComoEstá) {
+    caja.setPlainText(QStringLiteral("a\u00A0b\nc d\n"));
+    EXPECT_EQ(caja.DevTexto(), "a\u00A0b\r\nc d\r\n");
+}
+
+} // namespace
+} // namespace quiralto

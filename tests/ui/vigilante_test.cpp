@@ -1,0 +1,102 @@
+// Long commands: the progress dialog, its "Cancelar", and no second command under it.
+
+#include "tests/ui/dialogos.h"
+#include "tests/ui/ventana_de_prueba.h"
+
+#include <QElapsedTimer>
+#include <QProgressDialog>
+#include <QPushButton>
+
+namespace quiralto {
+namespace {
+
+using namespace std::chrono_literals;
+
+// Asks the watcher until it says no, or for as long as `plazo`.
+bool Trabaja(VigilanteVentana& vigilante, std::chrono::milliseconds plazo) {
+    QElapsedTimer reloj;
+    reloj.start();
+    while (std::chrono::milliseconds(reloj.elapsed()) < plazo)
+        if (!vigilante.Continúa())
+            return false;
+    return true;
+}
+
+TEST(VigilanteVentana, UnaOrdenCortaNoMuestraNada) {
+    VigilanteVentana vigilante;
+    const VigilanteVentana::Guardia guardia(vigilante);
+    EXPECT_TRUE(Trabaja(vigilante, 300ms));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(VigilanteVentana, FueraDeUnaOrdenNoMuestraNada) {
+    VigilanteVentana vigilante(0ms);
+    EXPECT_TRUE(Trabaja(vigilante, 50ms));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(VigilanteVentana, TrasUnSegundoMuestraElDiálogoYSeCancela) {
+    VigilanteVentana vigilante;
+    QElapsedTimer reloj;
+    reloj.start();
+    qint64 visto = 0;
+    const int vistos = ConDiálogos(
+        [&] {
+            const VigilanteVentana::Guardia guardia(vigilante);
+            EXPECT_FALSE(Trabaja(vigilante, 10s));
+        },
+        [&](QWidget& diálogo) {
+            visto = reloj.elapsed();
+            EXPECT_EQ(diálogo.windowTitle(), QStringLiteral("Quiralto"));
+            EXPECT_TRUE(diálogo.isModal());
+            auto* cancelar = diálogo.findChild<QPushButton*>();
+            ASSERT_NE(cancelar, nullptr);
+            EXPECT_EQ(cancelar->text(), QStringLiteral("Cancelar"));
+            cancelar->click();
+        });
+    EXPECT_EQ(vistos, 1);
+    EXPECT_GE(visto, 1000);
+    EXPECT_LT(visto, 2000);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_FALSE(vigilante.EnMarcha());
+}
+
+// A message sink that works for a while before it records, as a long command would.
+class MensajesLentos : public Mensajes {
+public:
+    explicit MensajesLentos(VigilanteVentana& vigilante) : vigilante_(vigilante) {}
+    void Muestra(Icono, std::string_view) override {
+        ++mostrados;
+        if (!Trabaja(vigilante_, 2s))
+            throw OrdenCancelada{};
+    }
+    int mostrados = 0;
+
+private:
+    VigilanteVentana& vigilante_;
+};
+
+TEST(VigilanteVentana, UnaOrdenCanceladaDejaLaHojaYNoEmpiezaOtraDebajo) {
+    VigilanteVentana vigilante(50ms);
+    MensajesLentos mensajes(vigilante);
+    Contexto contexto(mensajes, vigilante);
+    ImpresoraDePrueba impresora;
+    frmGráficas formulario(contexto, vigilante, impresora);
+    formulario.show();
+    auto* hoja = formulario.findChild<QPlainTextEdit*>(QStringLiteral("txtSalida"));
+    hoja->setPlainText(QStringLiteral("X+"));
+    const int vistos = ConDiálogos([&] { formulario.EjecutaOrden("Hallar máximos"); },
+                                   [&](QWidget& diálogo) {
+                                       formulario.EjecutaOrden("Hallar máximos");
+                                       EXPECT_EQ(mensajes.mostrados, 1);
+                                       dynamic_cast<QProgressDialog&>(diálogo).cancel();
+                                   });
+    EXPECT_EQ(vistos, 1);
+    EXPECT_EQ(mensajes.mostrados, 1);
+    EXPECT_EQ(hoja->toPlainText(), QStringLiteral("X+"));
+    EXPECT_FALSE(hoja->textCursor().hasSelection());
+    EXPECT_FALSE(vigilante.EnMarcha());
+}
+
+} // namespace
+} // namespace quiralto
