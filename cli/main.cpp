@@ -1,6 +1,7 @@
 // quiralto-cli: the commands of the worksheet without a window.
 
 #include "cli/opciones.h"
+#include "commands/fichero_primos.h"
 #include "commands/ordenes.h"
 #include "engine/compila.h"
 #include "engine/deriva.h"
@@ -86,6 +87,7 @@ Estado EjecutaOrden(Contexto& contexto, const Opciones& opciones) {
     if (texto->starts_with(MarcaDeOrden))
         texto->erase(0, MarcaDeOrden.size());
     Hoja hoja{.texto = ConCrLf(*texto), .líneas = {}, .líneaSeleccionada = {}};
+    CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
     EjecutaInstrucciones(contexto, hoja, opciones.argumento);
     if (hoja.líneaSeleccionada)
         std::cerr << "línea: " << *hoja.líneaSeleccionada << '\n';

@@ -3,6 +3,9 @@
 #include "commands/analisis.h"
 #include "commands/calculo.h"
 #include "commands/desarrollos.h"
+#include "commands/lagrange.h"
+#include "commands/numeros.h"
+#include "commands/racionales.h"
 
 #include <algorithm>
 #include <array>
@@ -11,13 +14,26 @@
 namespace quiralto {
 namespace {
 
+constexpr std::string_view Números = "Números";
+constexpr std::string_view Ecuaciones = "Ecuaciones y funciones";
 constexpr std::string_view Numérico = "Cálculo numérico con una variable";
 constexpr std::string_view Simbólico = "Cálculo simbólico con una variable";
 constexpr std::string_view Multivariable = "Cálculo simbólico con más de una variable";
 constexpr std::string_view Función = "f(x)";
 constexpr std::string_view FunciónYExtremos = "f(x),extremo1,extremo2";
+constexpr std::string_view FuncionesRacionales = "f(x),g(x),...";
 
 constexpr std::array Órdenes = {
+    Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", "enteros", "12,18",
+          ResolverMcdNúmeros},
+    Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", "enteros",
+          "12,18", ResolverMcmNúmeros},
+    Orden{"Hallar divisores", Números, "Hallar divisores", "entero", "360",
+          ResolverDivisoresNúmero},
+    Orden{"Hallar factores primos", Números, "Descomponer en factores primos", "entero", "360",
+          ResolverDescomposiciónEnFactoresPrimos},
+    Orden{"Hallar números primos", Números, "Hallar números primos", "entero,entero", "2,100",
+          ResolverNúmerosPrimos},
     Orden{"Hallar soluciones ecuación", Numérico, "Hallar soluciones", FunciónYExtremos,
           "X^2-4,-5,5", ResolverSolucionesEcuación},
     Orden{"Hallar máximos", Numérico, "Hallar máximos", FunciónYExtremos, "X^3-3*X,-5,5",
@@ -37,10 +53,25 @@ constexpr std::array Órdenes = {
           ResolverDesarrolloCompleto},
     Orden{"Desarrollo simplificado", Simbólico, "Desarrollar simplificadamente", Función, "(X+1)^3",
           ResolverDesarrolloSimplificado},
+    Orden{"Simplificar función racional", Simbólico, "Simplificar función racional", Función,
+          "(X^2-3*X+2)/(X^2-1)", ResolverSimplificarFunciónRacional},
+    Orden{"Factorizar función racional", Simbólico, "Factorizar función racional", FunciónYExtremos,
+          "(X^2-1)/(X^2+X),-10,10", ResolverFactorizarFunciónRacional},
+    Orden{"Máximo común divisor función racional", Simbólico,
+          "Máximo común divisor funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          ResolverMáximoComúnDivisorFunciónRacional},
+    Orden{"Mínimo común múltiplo función racional", Simbólico,
+          "Mínimo común múltiplo funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          ResolverMínimoComúnMúltiploFunciónRacional},
     Orden{"Desarrollo completo multivariable", Multivariable, "Desarrollar totalmente",
           "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloCompletoMultivariable},
     Orden{"Desarrollo simplificado multivariable", Multivariable, "Desarrollar simplificadamente",
           "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloSimplificadoMultivariable},
+    Orden{"Convertir coeficientes a fracción continua", Números,
+          "Convertir coeficienes a fracción continua", Función, ".5*X^2+.125*X",
+          ResoverConvertirCoeficientesFracciónContinua},
+    Orden{"Hallar polinomio de Lagrange", Ecuaciones, "Hallar polinomio de Lagrange",
+          "x1,y1,x2,y2,...", "2,4,3,9,4,16,5,25", ResolverPolinomioLagrange},
 };
 
 } // namespace

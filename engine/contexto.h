@@ -4,6 +4,7 @@
 
 #include "engine/error_ejecucion.h"
 #include "engine/mensajes.h"
+#include "engine/primos.h"
 #include "engine/vigilante.h"
 
 #include <cstdint>
@@ -32,6 +33,9 @@ struct Contexto {
     // Fault of the last failed evaluation or number reading. Whoever evaluates clears it before
     // and tests it after; the evaluator only ever sets it.
     std::int16_t ErrorCódigo = SinFallo;
+
+    // The table of primes; all 0 until it is filled from its file.
+    Primos TablaPrimos{};
 
     std::mt19937_64 generador{std::random_device{}()};
 

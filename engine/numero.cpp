@@ -179,6 +179,22 @@ int DecimalesNúmero(double valor) {
     return valor == 0 ? 0 : DevFormaDecimal(std::fabs(valor)).Decimales();
 }
 
+FormaEntera DevFormaEntera(double valor) {
+    constexpr double MáximoEntero = 9007199254740992; // 2^53
+    const double absoluto = std::fabs(CompruebaFinito(valor));
+    if (absoluto <= MáximoEntero && std::trunc(absoluto) == absoluto)
+        return {static_cast<std::int64_t>(absoluto), 0};
+    const FormaDecimal decimal = DevFormaDecimal(absoluto);
+    FormaEntera forma{0, decimal.exponente - (decimal.cantidad - 1)};
+    std::from_chars(decimal.dígitos.data(), decimal.dígitos.data() + decimal.cantidad,
+                    forma.mantisa);
+    return forma;
+}
+
+double DevDoble(const FormaEntera& forma) {
+    return Val(std::to_string(forma.mantisa) + 'E' + std::to_string(forma.exponente));
+}
+
 double Redondea(double valor, int dígitos) {
     if (valor - std::trunc(valor) == 0)
         return valor;

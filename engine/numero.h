@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -36,6 +37,20 @@ double Val(std::string_view texto);
 // The number of decimal places of the value as the general form writes it; an exponent counts for
 // the places that it implies (1.5E-07 has 8).
 int DecimalesNúmero(double valor);
+
+// A number without sign as an integer times a power of ten.
+struct FormaEntera {
+    std::int64_t mantisa = 0; // 0 to 2^53
+    int exponente = 0;        // below 0 for what has decimals
+};
+
+// The absolute value, exactly where it is an integer up to 2^53, otherwise as the general form
+// writes it: at most 15 digits, the last of them not 0. Fault: run-time error 5 or 6 for what is
+// not finite.
+FormaEntera DevFormaEntera(double valor);
+
+// The nearest Double; 0 for what is too small for one. Fault: run-time error 6 beyond the range.
+double DevDoble(const FormaEntera& forma);
 
 // Rounding half away from zero at `dígitos` decimal places (0 to 15). The scale-back is a
 // multiplication by 10^-dígitos, which decides the last bit of the results.

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <climits>
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
@@ -108,11 +107,12 @@ public:
 
 private:
     void Escribe(const std::string& texto) {
-        const ssize_t cuántos = write(sondeos_[0].fd, texto.data() + escritos_,
-                                      std::min<std::size_t>(texto.size() - escritos_, PIPE_BUF));
+        const ssize_t cuántos =
+            write(sondeos_[0].fd, texto.data() + escritos_, texto.size() - escritos_);
         if (cuántos > 0)
             escritos_ += static_cast<std::size_t>(cuántos);
-        if (cuántos < 0 || escritos_ == texto.size()) { // the process need not read all of it
+        const bool cerrada = cuántos < 0 && errno != EAGAIN; // the process need not read all of it
+        if (cerrada || escritos_ == texto.size()) {
             sondeos_[0].fd = -1;
             entrada_.Cierra();
         }
@@ -121,7 +121,7 @@ private:
     static void Lee(pollfd& sondeo, std::string& destino) {
         if (sondeo.fd < 0 || sondeo.revents == 0)
             return;
-        std::array<char, 65536> búfer{};
+        std::array<char, 65536> búfer;
         const ssize_t cuántos = read(sondeo.fd, búfer.data(), búfer.size());
         if (cuántos > 0)
             destino.append(búfer.data(), static_cast<std::size_t>(cuántos));
@@ -163,6 +163,7 @@ Final Ejecuta(const Llamada& llamada) {
     salida.escritura.Cierra();
     errores.escritura.Cierra();
 
+    fcntl(entrada.escritura.Descriptor(), F_SETFL, O_NONBLOCK);
     Final final;
     final.agotado =
         !Conversación(entrada.escritura, salida.lectura, errores.lectura).Sigue(llamada, final);

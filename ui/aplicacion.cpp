@@ -14,7 +14,7 @@ bool PreparaAplicación(QApplication& aplicación) {
     QApplication::setApplicationName(QStringLiteral("Quiralto"));
     QApplication::setApplicationVersion(QString::fromLatin1(Versión));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quiralto"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("quiralto"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quiralto.Quiralto"));
     auto* traductor = new QTranslator(&aplicación);
     return traductor->load(QStringLiteral("qtbase_es"),
                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&

@@ -69,6 +69,10 @@ void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
         suceso->accept();
         return;
     }
+    if (EsMnemónico(*suceso)) {
+        suceso->ignore();
+        return;
+    }
     if (!EsTecleado(*suceso)) {
         QPlainTextEdit::keyPressEvent(suceso);
         return;

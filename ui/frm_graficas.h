@@ -1,12 +1,16 @@
-// The main form.
+// The main form: the graph view and the worksheet.
 #pragma once
 
 #include "commands/ordenes.h"
 #include "ui/caja_hoja.h"
+#include "ui/control_grafica.h"
 #include "ui/impresora.h"
 #include "ui/vigilante_ventana.h"
 
 #include <QMainWindow>
+#include <QSplitter>
+
+#include <memory>
 
 namespace quiralto {
 
@@ -15,17 +19,45 @@ public:
     // All three outlive the form.
     frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impresora& impresora);
 
+    ~frmGráficas() override;
+
     // Runs the command with that text on the worksheet. Nothing happens while one is running.
     void EjecutaOrden(std::string_view orden);
 
+    // The view of the start.
+    void Comienza() { control_->Comienza(); }
+
+protected:
+    void closeEvent(QCloseEvent* suceso) override;
+
 private:
+    QWidget* CreaZonaGráfica();
+    QWidget* CreaColumna();
+    void CreaBarraEstado();
     void CreaMenús();
+    void CreaMenúArchivo();
+    void CreaMenúAyuda();
+
+    template <typename Imprime> void ConImpresora(Imprime imprime);
+    void ImprimirGráfica_Click();
     void ImprimirTexto_Click();
+    void CopiarImagen_Click();
+    template <typename Formulario> void Muestra(Formulario*& formulario);
 
     Contexto& contexto_;
     VigilanteVentana& vigilante_;
     Impresora& impresora_;
+    VentanaGráfica vista_;
+    std::unique_ptr<ControlGráfica> control_;
+
     CajaHoja* txtSalida_;
+    VisorFunciones* visor_;
+    PanelFunciones* panel_;
+    frmPuntosExtremos* marco_;
+    QLabel* zoom_;
+    QLabel* coordenadas_;
+    class formAyuda* ayuda_ = nullptr;
+    class forAcercaDe* acercaDe_ = nullptr;
 };
 
 } // namespace quiralto

@@ -1,6 +1,7 @@
 // quiralto: the workbench with its window.
 
 #include "ui/aplicacion.h"
+#include "ui/arranque.h"
 #include "ui/frm_graficas.h"
 #include "ui/mensajes_ventana.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char** argv) {
     quiralto::Contexto contexto(mensajes, vigilante);
     quiralto::ImpresoraDelSistema impresora;
     quiralto::frmGráficas formulario(contexto, vigilante, impresora);
+    quiralto::Arranca(formulario);
     formulario.show();
     return QApplication::exec();
 }

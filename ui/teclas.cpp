@@ -62,6 +62,12 @@ bool EsTecleado(const QKeyEvent& tecla) {
            primero.category() == QChar::Other_PrivateUse;
 }
 
+bool EsMnemónico(const QKeyEvent& tecla) {
+    const Qt::KeyboardModifiers modificadores =
+        tecla.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    return modificadores == Qt::AltModifier && EsTecleado(tecla);
+}
+
 QKeyEvent FiltraSuceso(const QKeyEvent& tecla, const Pitido& pitido) {
     return {tecla.type(),
             tecla.key(),

@@ -27,6 +27,10 @@ QString ConviertePegado(QStringView delante, const QString& texto);
 // Whether the key would write characters into a text box, rather than move, edit or command.
 bool EsTecleado(const QKeyEvent& tecla);
 
+// Whether the key is a menu's mnemonic (Alt and a character), which writes nothing where no menu
+// takes it. AltGr, which some platforms report as Ctrl and Alt, is none.
+bool EsMnemónico(const QKeyEvent& tecla);
+
 // The key event with filtered text: none at all where everything was swallowed.
 QKeyEvent FiltraSuceso(const QKeyEvent& tecla, const Pitido& pitido);
 

@@ -1,5 +1,6 @@
 // Every golden worksheet, run in process; and the reader of their files.
 
+#include "commands/fichero_primos.h"
 #include "commands/ordenes.h"
 #include "tests/hojas_doradas.h"
 
@@ -21,6 +22,7 @@ TEST_P(HojasDoradas, QuedanComoSeEspera) {
         << "no such command: " << dorada.orden;
     Banco banco;
     banco.contexto.DígitosRedondeo = dorada.cifras;
+    CargaPrimos(banco.contexto, QUIRALTO_PRIMOS);
     Hoja hoja{.texto = ConCrLf(dorada.hoja), .líneas = {}, .líneaSeleccionada = {}};
     EjecutaInstrucciones(banco.contexto, hoja, dorada.orden);
     EXPECT_EQ(ConLf(hoja.texto), dorada.queda);

@@ -203,10 +203,10 @@ TEST(CompilaExpresión, CompilaSumasLargas) {
 TEST(CompilaExpresión, CompilaParéntesisHondos) {
     const std::size_t hondo = 10000;
     EXPECT_EQ(Evalúa(std::string(hondo, '(') + "X" + std::string(hondo, ')'), 4), 4);
-    std::string capas = "X";
+    std::string capas;
     for (int i = 0; i < 5000; ++i)
-        capas = "1+(" + capas;
-    EXPECT_EQ(Evalúa(capas + std::string(5000, ')'), 4), 5004);
+        capas += "1+(";
+    EXPECT_EQ(Evalúa(capas + "X" + std::string(5000, ')'), 4), 5004);
     std::string negado;
     for (int i = 0; i < 9999; ++i)
         negado += "-(";

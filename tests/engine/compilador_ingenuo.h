@@ -56,7 +56,7 @@ private:
             for (std::size_t p; (p = t.find(signo)) != std::string::npos;) {
                 std::string resto = "0" + t.substr(p + 1);
                 CompilaBinaria(resto, 1);
-                t = t.substr(0, p + 1) + resto;
+                t.replace(p + 1, std::string::npos, resto);
             }
         }
         for (const char operador : {'^', '/', '*', '-', '+'}) {

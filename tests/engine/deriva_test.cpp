@@ -373,15 +373,21 @@ TEST(Deriva, SusResultadosSonDelLenguaje) {
     }
 }
 
-TEST(Deriva, LoQueCreceSinMedidaEsElError14) {
+// X^X^...^X, whose derivative grows with the square of its height.
+std::string Torre(std::size_t alto) {
     std::string torre = "X";
-    for (int i = 0; i < 20000; ++i)
+    for (std::size_t i = 1; i < alto; ++i)
         torre += "^X";
-    std::string arcos = "X";
+    return torre;
+}
+
+TEST(Deriva, LoQueCreceSinMedidaEsElError14) {
+    std::string arcos; // each of them triples the derivative
     for (int i = 0; i < 40; ++i)
-        arcos = "ARCSIN(" + arcos + ")";
-    const std::string operadores(2'000'001, 'X'); // not of the language, but counted all the same
-    for (const std::string& texto : {torre, arcos, operadores}) {
+        arcos += "ARCSIN(";
+    arcos += "X" + std::string(40, ')');
+    const std::string equis(2'000'001, 'X'); // more than the analysis takes
+    for (const std::string& texto : {Torre(5000), Torre(200000), arcos, equis}) {
         Banco banco;
         try {
             Deriva(banco.contexto, texto);
@@ -390,6 +396,7 @@ TEST(Deriva, LoQueCreceSinMedidaEsElError14) {
             EXPECT_EQ(error.Número(), EspacioDeCadenasInsuficiente) << texto.substr(0, 40);
         }
     }
+    EXPECT_GT(DerivadaDe(Torre(2000)).size(), 10'000'000U);
 }
 
 TEST(Deriva, ResisteTextosHondosYLargos) {

@@ -5,6 +5,7 @@
 #include "engine/programa.h"
 #include "engine/sintaxis.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <optional>
@@ -54,10 +55,11 @@ private:
         for (const std::size_t p : Fuera(t, '+'))
             if (!TrasUnoDe(t, p, "E"))
                 return con(p, Suma);
-        const std::vector<std::size_t> menos = Fuera(t, '-');
-        for (auto p = menos.rbegin(); p != menos.rend(); ++p)
-            if (*p != 0 && !TrasUnoDe(t, *p, "E*/^"))
-                return con(*p, Resta);
+        std::vector<std::size_t> menos = Fuera(t, '-');
+        std::ranges::reverse(menos);
+        for (const std::size_t p : menos)
+            if (p != 0 && !TrasUnoDe(t, p, "E*/^"))
+                return con(p, Resta);
         if (const auto p = Fuera(t, '*'); !p.empty())
             return con(p.front(), Producto);
         if (const auto p = Fuera(t, '/'); !p.empty())

@@ -158,9 +158,11 @@ TEST(EvalúaPrograma, CalculaLasFunciones) {
     Banco banco;
     for (const auto& caso : casos) {
         Programa programa = CompilaExpresión(caso.texto);
-        for (double x = 0.0625; x < 1; x += 0.0625)
+        for (int i = 1; i < 16; ++i) {
+            const double x = i / 16.0;
             EXPECT_NEAR(EvalúaPrograma(banco.contexto, programa, x), caso.f(x), 1e-14)
                 << caso.texto << x;
+        }
     }
     EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
 }
@@ -321,6 +323,12 @@ TEST(EvalúaBloque, CadaPotenciaEnteraEsLaMismaEnAmbos) {
     Generador generador(5);
     for (int exponente = -12; exponente <= 12; ++exponente)
         CompruebaBloque("X^" + std::to_string(exponente), EquisDe(300, generador));
+}
+
+TEST(EvalúaBloque, UnExponenteConXPuedeSerEntero) {
+    Generador generador(6);
+    for (const char* exponente : {"X-X-3", "X-X", "X-X+2", "X-X+3", "X-X+7", "X-X+8", "X-X+2.5"})
+        CompruebaBloque("(X/7)^(" + std::string(exponente) + ")", EquisDe(300, generador));
 }
 
 TEST(EvalúaBloque, LosProgramasDeMuchasFilasDanLoMismo) {

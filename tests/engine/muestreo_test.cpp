@@ -16,7 +16,7 @@ std::vector<Punto> PuntosDe(const std::string& texto, const Ventana& ventana = {
                             int cantidad = CantidadPuntosInicial) {
     Banco banco;
     banco.contexto.ErrorCódigo = 77;
-    const auto puntos = CargaPuntos(banco.contexto, CompilaExpresión(texto), ventana, cantidad);
+    auto puntos = CargaPuntos(banco.contexto, CompilaExpresión(texto), ventana, cantidad);
     EXPECT_EQ(banco.contexto.ErrorCódigo, 77) << texto;
     EXPECT_TRUE(banco.TomaMensajes().empty());
     return puntos;
@@ -39,7 +39,7 @@ TEST(Muestreo, CambiaDeEscala) {
     EXPECT_EQ(DevYlógico(otra, 3), 10);
     EXPECT_EQ(DevXfísico(otra, 10), 100);
     EXPECT_EQ(DevXfísico(otra, -10), 0);
-    for (double s = -10; s <= 10; s += 0.125)
+    for (int s = -10; s <= 10; ++s)
         EXPECT_NEAR(DevXlógico(otra, DevXfísico(otra, s)), s, 1e-13);
 }
 

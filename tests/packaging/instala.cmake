@@ -9,9 +9,17 @@ foreach(file
         share/icons/hicolor/scalable/apps/io.github.quiralto.Quiralto.svg
         share/man/man1/quiralto.1
         share/man/man1/quiralto-cli.1
+        share/quiralto/Primos.Qto
         share/metainfo/io.github.quiralto.Quiralto.metainfo.xml)
     if(NOT EXISTS ${TREE}/usr/${file})
         message(FATAL_ERROR "not installed: ${file}")
     endif()
 endforeach()
 execute_process(COMMAND ${TREE}/usr/bin/quiralto-cli --version COMMAND_ERROR_IS_FATAL ANY)
+
+# The installed program finds its data.
+file(WRITE ${TREE}/hoja 2147483647)
+execute_process(
+    COMMAND ${TREE}/usr/bin/quiralto-cli --orden "Hallar factores primos" ${TREE}/hoja
+    COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+file(REMOVE ${TREE}/hoja)

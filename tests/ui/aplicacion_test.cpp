@@ -32,7 +32,7 @@ TEST(Aplicación, LosNúmerosLlevanPuntoConCualquierIdioma) {
 
 TEST(Aplicación, TieneNombreEIdentificador) {
     EXPECT_EQ(QApplication::applicationName(), QStringLiteral("Quiralto"));
-    EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("quiralto"));
+    EXPECT_EQ(QGuiApplication::desktopFileName(), QStringLiteral("io.github.quiralto.Quiralto"));
 }
 
 } // namespace

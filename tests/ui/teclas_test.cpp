@@ -62,6 +62,14 @@ TEST_F(Teclas, LasTeclasDeEdiciónVanPorSuCamino) {
     EXPECT_EQ(pitidos, 0);
 }
 
+TEST_F(Teclas, AltConUnaLetraNoEscribe) {
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier);
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(caja.toPlainText(), QString());
+    QTest::keyClick(&caja, Qt::Key_J, Qt::AltModifier | Qt::ControlModifier); // AltGr
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("J"));
+}
+
 TEST_F(Teclas, IntroConMayúsculasEsIntro) {
     QTest::keyClicks(&caja, QStringLiteral("a"));
     QTest::keyClick(&caja, Qt::Key_Return, Qt::ShiftModifier);

@@ -1,0 +1,143 @@
+#include "commands/numeros.h"
+
+#include "commands/datos_funcion.h"
+#include "commands/datos_numeros.h"
+#include "engine/fracciones.h"
+#include "engine/mcd.h"
+#include "engine/numero.h"
+#include "engine/primos.h"
+#include "engine/validadores.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <span>
+
+namespace quiralto {
+namespace {
+
+constexpr std::int64_t MáximaDiferencia = 25000; // of the ends of a range of primes
+
+// The number as an integer, for the classes of integers of CargaNúmeros.
+std::int64_t DevEntero(double número) {
+    return static_cast<std::int64_t>(std::nearbyint(número));
+}
+
+double DevMcm(double a, double b) {
+    const double mcd = DevMCDReales(a, b);
+    if (mcd == 0)
+        throw ErrorEjecución(DivisiónPorCero);
+    // The product may need more digits and a wider range than its quotient.
+    const long double mcm = static_cast<long double>(a) * b / mcd;
+    if (std::fabs(mcm) > std::numeric_limits<double>::max())
+        throw ErrorEjecución(Desbordamiento);
+    return static_cast<double>(mcm);
+}
+
+// Joins all the numbers of the worksheet by one operation of two.
+std::optional<double> ReduceNúmeros(Contexto& contexto, Hoja& hoja,
+                                    double (*operación)(double, double)) {
+    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::DoblePrecisión, 0);
+    if (!números)
+        return std::nullopt;
+    double resultado = números->front();
+    for (const double número : std::span(*números).subspan(1)) {
+        contexto.Vigila();
+        resultado = operación(resultado, número);
+    }
+    return resultado;
+}
+
+// The absolute value of the one integer on the worksheet, which may not be 0. Fault: run-time error
+// 6 for -2147483648.
+std::optional<std::int32_t> CargaEnteroPositivo(Contexto& contexto, Hoja& hoja) {
+    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::EnterosLargos, 1);
+    if (!números)
+        return std::nullopt;
+    const std::int64_t entero = DevEntero(números->front());
+    if (!NoCero(contexto, std::to_string(entero)))
+        return std::nullopt;
+    const std::int64_t absoluto = std::abs(entero);
+    if (absoluto > std::numeric_limits<std::int32_t>::max())
+        throw ErrorEjecución(Desbordamiento);
+    return static_cast<std::int32_t>(absoluto);
+}
+
+void BuscaDivisores(Contexto& contexto, Hoja& hoja, std::int32_t n) {
+    const std::vector<std::int32_t> divisores = DevDivisores(contexto.TablaPrimos, n);
+    hoja.texto += "\r\n\r\n'Se han hallado  " + std::to_string(divisores.size()) +
+                  " divisores.\r\n'Divisores hallados :\r\n";
+    for (const std::int32_t divisor : divisores) {
+        contexto.Vigila();
+        ((hoja.texto += '\'') += std::to_string(divisor)) += "\r\n";
+    }
+    hoja.texto += "\r\n'(Sólo se muestran divisores positivos.)";
+}
+
+void DescomposiciónPrimos(Contexto& contexto, Hoja& hoja, std::int32_t n) {
+    const std::vector<FactorPrimo> factores = FactorizaConTabla(contexto.TablaPrimos, n);
+    hoja.texto += "\r\n\r\n'Encontrados  " + std::to_string(factores.size()) +
+                  " factores primos, descomposición : \r\n'";
+    std::string_view separador;
+    for (const auto& [primo, exponente] : factores) {
+        (hoja.texto += separador) += '(' + std::to_string(primo);
+        if (exponente > 1)
+            hoja.texto += '^' + std::to_string(exponente);
+        hoja.texto += ')';
+        separador = "*";
+    }
+    hoja.texto += "\r\n\r\n'(Sólo se muestran los factores primos positivos.)";
+}
+
+void BuscaPrimos(Contexto& contexto, Hoja& hoja, std::int32_t desde, std::int32_t hasta) {
+    const std::vector<std::int32_t> primos = DevPrimosEntre(contexto.TablaPrimos, desde, hasta);
+    hoja.texto += "\r\n\r\n'Hallados  " + std::to_string(primos.size()) + " primos :\r\n";
+    for (const std::int32_t primo : primos) {
+        contexto.Vigila();
+        ((hoja.texto += "' ") += std::to_string(primo)) += "\r\n";
+    }
+    hoja.texto += "\r\n'(Sólo se muestran los primos positivos)";
+}
+
+} // namespace
+
+void ResolverMcdNúmeros(Contexto& contexto, Hoja& hoja) {
+    if (const auto mcd = ReduceNúmeros(contexto, hoja, DevMCDReales))
+        hoja.texto += "\r\n\r\n'Máximo común divisor hallado :" + TextoNúmero(*mcd);
+}
+
+void ResolverMcmNúmeros(Contexto& contexto, Hoja& hoja) {
+    if (const auto mcm = ReduceNúmeros(contexto, hoja, DevMcm))
+        hoja.texto += "\r\n\r\n'Mínimo común múltiplo hallado :" + TextoNúmero(*mcm);
+}
+
+void ResolverDivisoresNúmero(Contexto& contexto, Hoja& hoja) {
+    if (const auto n = CargaEnteroPositivo(contexto, hoja))
+        BuscaDivisores(contexto, hoja, *n);
+}
+
+void ResolverDescomposiciónEnFactoresPrimos(Contexto& contexto, Hoja& hoja) {
+    if (const auto n = CargaEnteroPositivo(contexto, hoja))
+        DescomposiciónPrimos(contexto, hoja, *n);
+}
+
+void ResolverNúmerosPrimos(Contexto& contexto, Hoja& hoja) {
+    // Neither 0 nor a negative number is of this class.
+    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::EnterosPositivos, 2);
+    if (!números)
+        return;
+    const auto [desde, hasta] = std::minmax({DevEntero(números->at(0)), DevEntero(números->at(1))});
+    if (hasta - desde > MáximaDiferencia) {
+        contexto.Avisa("La diferencia máxima permitida entre los valores es de 25000 unidades "
+                       "utilize diferencias más pequeñas y halle lo números en varias veces");
+        return;
+    }
+    BuscaPrimos(contexto, hoja, static_cast<std::int32_t>(desde), static_cast<std::int32_t>(hasta));
+}
+
+void ResoverConvertirCoeficientesFracciónContinua(Contexto& contexto, Hoja& hoja) {
+    if (const auto datos = CargaDatosFunción(contexto, hoja, TipoDatos::Función))
+        hoja.texto += "\r\n'Expresión convertida : \r\n" + ConvFrCont(contexto, datos->función);
+}
+
+} // namespace quiralto

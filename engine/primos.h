@@ -1,0 +1,47 @@
+// Primes and factors of positive 32-bit integers by trial division with a table of primes.
+//
+// The table holds the first 4792 primes, 2 to 46337, the last one below the square root of 2^31:
+// enough for every positive 32-bit integer. It comes from a file; an entry that the file did not
+// give is 0, and whatever reaches one ends with run-time error 11.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace quiralto {
+
+inline constexpr std::size_t CantidadPrimos = 4792;
+
+// Strictly increasing from 2 on up to its end or to its first 0, behind which all are 0.
+using Primos = std::array<std::int32_t, CantidadPrimos>;
+
+// Whether n is prime. Fault: run-time error 11 where the table ends before this is settled.
+bool EsPrimoTabla(const Primos& tabla, std::int32_t n);
+
+// The primes from `desde` to `hasta`, both included, in increasing order: a sieve of the whole
+// range at once, in memory of half its length. The same answers and faults as EsPrimoTabla for each
+// number of it.
+std::vector<std::int32_t> DevPrimosEntre(const Primos& tabla, std::int32_t desde,
+                                         std::int32_t hasta);
+
+struct FactorPrimo {
+    std::int32_t primo;
+    int exponente;
+    bool operator==(const FactorPrimo&) const = default;
+};
+
+// The prime factors of n, at least 1, in increasing order; none for 1. Faults: run-time error 11 as
+// above, 5 for n below 1.
+std::vector<FactorPrimo> FactorizaConTabla(const Primos& tabla, std::int32_t n);
+
+// The positive divisors of n in increasing order. Faults as FactorizaConTabla.
+std::vector<std::int32_t> DevDivisores(const Primos& tabla, std::int32_t n);
+
+// Sorts the list increasingly: quicksort with the middle element as pivot, no deeper than the
+// logarithm of its length.
+void OrdenaEnteros(std::span<std::int32_t> lista);
+
+} // namespace quiralto

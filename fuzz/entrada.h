@@ -1,0 +1,46 @@
+// What the fuzz targets share: a context that shows nothing, a watcher that ends long work, and the
+// way in which a broken promise becomes a crash.
+#pragma once
+
+#include "engine/contexto.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+namespace quiralto {
+
+class SinMensajes : public Mensajes {
+public:
+    void Muestra(Icono, std::string_view) override {}
+};
+
+// Says no after so many questions.
+class Impaciente : public Vigilante {
+public:
+    bool Continúa() override { return --quedan_ > 0; }
+
+private:
+    int quedan_ = 200'000;
+};
+
+struct BancoDeFuzz {
+    SinMensajes mensajes;
+    Impaciente vigilante;
+    Contexto contexto{mensajes, vigilante};
+};
+
+inline void Exige(bool promesa, std::string_view cuál, std::string_view texto) {
+    if (promesa)
+        return;
+    std::cerr << "broken: " << cuál << ": " << texto << '\n';
+    std::abort();
+}
+
+inline std::string LeeEntrada(const std::uint8_t* datos, std::size_t longitud) {
+    return {reinterpret_cast<const char*>(datos), longitud};
+}
+
+} // namespace quiralto

@@ -1,0 +1,274 @@
+#include "ui/dibujo_grafica.h"
+
+#include "ui/marcas_eje.h"
+#include "ui/texto_qt.h"
+
+#include <QFontMetricsF>
+#include <QPaintEngine>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quiralto {
+namespace {
+
+const QColor Papel = Qt::white;
+const QColor ColorRejilla(228, 228, 232);
+const QColor ColorEje(120, 120, 128);
+const QColor ColorTexto(70, 70, 76);
+const QColor ColorMarcador(0, 130, 90);
+
+QPen DevPluma(const QColor& color, qreal grosor) {
+    QPen pluma(color, grosor);
+    pluma.setCapStyle(Qt::FlatCap);
+    return pluma;
+}
+
+// A pen wider than one pixel takes the raster engine a hundred times as long as one pixel does, so
+// there the drawing is repeated, shifted, as often as the width needs.
+template <typename Trazo> void TrazaConGrosor(QPainter& pintor, qreal grosor, Trazo trazo) {
+    const int copias = static_cast<int>(std::lround(grosor));
+    for (int dy = 0; dy < copias; ++dy)
+        for (int dx = 0; dx < copias; ++dx) {
+            pintor.translate(dx, dy);
+            trazo();
+            pintor.translate(-dx, -dy);
+        }
+}
+
+bool EsRáster(const QPainter& pintor) {
+    return pintor.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+template <typename Trazo>
+void TrazaCurva(QPainter& pintor, const QColor& color, qreal grosor, Trazo trazo) {
+    if (EsRáster(pintor)) {
+        pintor.setPen(QPen(color, 0));
+        TrazaConGrosor(pintor, grosor, trazo);
+    } else {
+        pintor.setPen(QPen(color, grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        trazo();
+    }
+}
+
+void DibujaCurva(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena, int índice) {
+    const std::vector<Punto>& puntos = escena.puntos.at(static_cast<std::size_t>(índice));
+    if (puntos.empty())
+        return;
+    QPolygonF lugares;
+    lugares.reserve(static_cast<qsizetype>(puntos.size()));
+    for (const Punto& punto : puntos)
+        lugares += lienzo.DevLugar(punto.x, punto.y);
+    TrazaCurva(pintor, DevColor(índice), lienzo.grosor, [&] {
+        if (escena.método == MétodoDibujo::Puntos)
+            pintor.drawPoints(lugares);
+        else if (lugares.size() == 1)
+            pintor.drawPoint(lugares.front());
+        else
+            pintor.drawPolyline(lugares);
+    });
+}
+
+// A line across the whole area, over exactly `grosor` units.
+void DibujaVertical(QPainter& pintor, const Lienzo& lienzo, qreal x, const QColor& color) {
+    pintor.fillRect(QRectF(std::floor(x), lienzo.área.top(), lienzo.grosor, lienzo.área.height()),
+                    color);
+}
+
+void DibujaHorizontal(QPainter& pintor, const Lienzo& lienzo, qreal y, const QColor& color) {
+    pintor.fillRect(QRectF(lienzo.área.left(), std::floor(y), lienzo.área.width(), lienzo.grosor),
+                    color);
+}
+
+qreal DevLugarX(const Lienzo& lienzo, const EscenaGráfica& escena, double x) {
+    return lienzo.DevLugar(DevXlógico(escena.ventana, x), 0).x();
+}
+
+qreal DevLugarY(const Lienzo& lienzo, const EscenaGráfica& escena, double y) {
+    return lienzo.DevLugar(0, DevYlógico(escena.ventana, y)).y();
+}
+
+// The label with a halo of the paper's colour, so that it can be read over curves.
+void DibujaRótulo(QPainter& pintor, const Lienzo& lienzo, const QPointF& base,
+                  const QString& texto) {
+    const qreal g = lienzo.grosor;
+    pintor.setPen(Papel);
+    for (const QPointF& desvío : {QPointF(-g, -g), QPointF(0, -g), QPointF(g, -g), QPointF(-g, 0),
+                                  QPointF(g, 0), QPointF(-g, g), QPointF(0, g), QPointF(g, g)})
+        pintor.drawText(base + desvío, texto);
+    pintor.setPen(ColorTexto);
+    pintor.drawText(base, texto);
+}
+
+// The axes with their marks and labels, in the device's units.
+class Ejes {
+public:
+    Ejes(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena)
+        : pintor_(pintor), lienzo_(lienzo), escena_(escena),
+          medidas_(pintor.font(), pintor.device()),
+          enX_(DevMarcas(escena.ventana.XMín, escena.ventana.XMáx,
+                         lienzo.área.width() / lienzo.grosor)),
+          enY_(DevMarcas(escena.ventana.YMín, escena.ventana.YMáx,
+                         lienzo.área.height() / lienzo.grosor)),
+          ejeX_(DevLugarY(lienzo, escena, 0)), ejeY_(DevLugarX(lienzo, escena, 0)) {}
+
+    void DibujaRejilla() {
+        for (const Marca& marca : enX_)
+            DibujaVertical(pintor_, lienzo_, DevLugarX(lienzo_, escena_, marca.valor),
+                           ColorRejilla);
+        for (const Marca& marca : enY_)
+            DibujaHorizontal(pintor_, lienzo_, DevLugarY(lienzo_, escena_, marca.valor),
+                             ColorRejilla);
+    }
+
+    void Dibuja() {
+        if (EstáEnVista(ejeX_, lienzo_.área.top(), lienzo_.área.bottom()))
+            DibujaHorizontal(pintor_, lienzo_, ejeX_, ColorEje);
+        if (EstáEnVista(ejeY_, lienzo_.área.left(), lienzo_.área.right()))
+            DibujaVertical(pintor_, lienzo_, ejeY_, ColorEje);
+        RotulaX();
+        RotulaY();
+    }
+
+private:
+    static bool EstáEnVista(qreal lugar, qreal menor, qreal mayor) {
+        return lugar >= menor && lugar <= mayor;
+    }
+
+    // Long numbers do not fit beside each other at every mark: how many marks a label takes, in
+    // the round numbers that marks are made of.
+    std::size_t DevSalto() const {
+        qreal mayor = 0;
+        for (const Marca& marca : enX_)
+            mayor = std::max(mayor, medidas_.horizontalAdvance(DevQString(marca.texto)));
+        if (enX_.size() < 2)
+            return 1;
+        const qreal separación =
+            DevLugarX(lienzo_, escena_, enX_[1].valor) - DevLugarX(lienzo_, escena_, enX_[0].valor);
+        for (const std::size_t salto : {1U, 2U, 5U})
+            if (mayor + 12 * lienzo_.grosor <= separación * static_cast<qreal>(salto))
+                return salto;
+        return 10;
+    }
+
+    void RotulaX() {
+        const qreal g = lienzo_.grosor;
+        const QRectF& área = lienzo_.área;
+        const qreal alto = medidas_.height();
+        // Below the axis, or at the border next to it where it is out of view or close to it.
+        const qreal eje = std::clamp(ejeX_, área.top(), área.bottom() - g);
+        const qreal base = eje + 6 * g + alto <= área.bottom() ? eje + 4 * g + medidas_.ascent()
+                                                               : eje - 5 * g - medidas_.descent();
+        const std::size_t salto = DevSalto();
+        for (std::size_t i = 0; i < enX_.size(); ++i) {
+            const qreal x = std::floor(DevLugarX(lienzo_, escena_, enX_[i].valor));
+            pintor_.fillRect(QRectF(x, eje - 3 * g, g, 7 * g), ColorEje);
+            if (i % salto != 0)
+                continue;
+            const QString texto = DevQString(enX_[i].texto);
+            const qreal ancho = medidas_.horizontalAdvance(texto);
+            // The axis itself would run through a label below it.
+            const bool enElEje = std::fabs(x - ejeY_) < 1 + g;
+            const qreal izquierda = enElEje ? x - ancho - 4 * g : x - ancho / 2;
+            if (izquierda >= área.left() && izquierda + ancho <= área.right())
+                DibujaRótulo(pintor_, lienzo_, {izquierda, base}, texto);
+        }
+    }
+
+    void RotulaY() {
+        const qreal g = lienzo_.grosor;
+        const QRectF& área = lienzo_.área;
+        const qreal eje = std::clamp(ejeY_, área.left(), área.right() - g);
+        const bool origenRotulado = EstáEnVista(ejeX_, área.top(), área.bottom()) &&
+                                    EstáEnVista(ejeY_, área.left(), área.right());
+        for (const Marca& marca : enY_) {
+            const qreal y = std::floor(DevLugarY(lienzo_, escena_, marca.valor));
+            pintor_.fillRect(QRectF(eje - 3 * g, y, 7 * g, g), ColorEje);
+            if (marca.valor == 0 && origenRotulado)
+                continue;
+            const QString texto = DevQString(marca.texto);
+            const qreal ancho = medidas_.horizontalAdvance(texto);
+            const qreal izquierda = eje - 6 * g - ancho;
+            const qreal base = y + medidas_.ascent() / 2 - g;
+            if (base - medidas_.ascent() >= área.top() &&
+                base + medidas_.descent() <= área.bottom())
+                DibujaRótulo(pintor_, lienzo_,
+                             {izquierda >= área.left() ? izquierda : eje + 7 * g, base}, texto);
+        }
+    }
+
+    QPainter& pintor_;
+    const Lienzo& lienzo_;
+    const EscenaGráfica& escena_;
+    QFontMetricsF medidas_;
+    std::vector<Marca> enX_;
+    std::vector<Marca> enY_;
+    qreal ejeX_; // the height of the horizontal axis
+    qreal ejeY_; // the place of the vertical one
+};
+
+} // namespace
+
+QColor DevColor(int índice) {
+    switch (índice) {
+    case 1:
+        return {255, 0, 255};
+    case 2:
+        return {255, 0, 0};
+    case 3:
+        return {0, 0, 255};
+    default:
+        return {0, 0, 0};
+    }
+}
+
+// The first and the last unit of the area are the ends of the scale, so that both can be seen.
+QPointF Lienzo::DevLugar(double s, double t) const {
+    constexpr double Escala = 2 * MediaEscala;
+    return {área.left() + grosor / 2 + (s + MediaEscala) / Escala * (área.width() - grosor),
+            área.top() + grosor / 2 + (MediaEscala - t) / Escala * (área.height() - grosor)};
+}
+
+double Lienzo::DevS(double x) const {
+    return (x - área.left() - grosor / 2) / (área.width() - grosor) * 2 * MediaEscala - MediaEscala;
+}
+
+double Lienzo::DevT(double y) const {
+    return MediaEscala - (y - área.top() - grosor / 2) / (área.height() - grosor) * 2 * MediaEscala;
+}
+
+void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
+    pintor.save();
+    pintor.setClipRect(lienzo.área);
+    pintor.fillRect(lienzo.área, Papel);
+    Ejes ejes(pintor, lienzo, escena);
+    ejes.DibujaRejilla();
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+        DibujaCurva(pintor, lienzo, escena, i);
+    ejes.Dibuja();
+    pintor.restore();
+}
+
+void DibujaPuntoX(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
+    const double s = DevXlógico(escena.ventana, escena.puntoX);
+    if (!(std::fabs(s) <= MediaEscala))
+        return;
+    pintor.save();
+    pintor.setClipRect(lienzo.área);
+    const qreal x = lienzo.DevLugar(s, 0).x();
+    DibujaVertical(pintor, lienzo, x, ColorMarcador);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
+        const std::optional<double> valor = escena.valores.at(static_cast<std::size_t>(i));
+        const double t = valor ? DevYlógico(escena.ventana, *valor) : 2 * MediaEscala;
+        if (!(std::fabs(t) <= MediaEscala))
+            continue;
+        pintor.setPen(DevPluma(Papel, lienzo.grosor));
+        pintor.setBrush(DevColor(i));
+        const qreal radio = 4.5 * lienzo.grosor;
+        pintor.drawEllipse(lienzo.DevLugar(s, t), radio, radio);
+    }
+    pintor.restore();
+}
+
+} // namespace quiralto

@@ -1,0 +1,13 @@
+// The About window.
+#pragma once
+
+#include <QWidget>
+
+namespace quiralto {
+
+class forAcercaDe : public QWidget {
+public:
+    explicit forAcercaDe(QWidget* padre);
+};
+
+} // namespace quiralto

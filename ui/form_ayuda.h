@@ -1,0 +1,21 @@
+// The help window: the notation that the program accepts.
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace quiralto {
+
+class formAyuda : public QWidget {
+public:
+    explicit formAyuda(QWidget* padre);
+
+private:
+    void cmdAyuda_Click();
+
+    QPlainTextEdit* txtAyuda_;
+};
+
+// The text of the topic, lines separated by CR LF.
+QString DevTextoAyuda();
+
+} // namespace quiralto
