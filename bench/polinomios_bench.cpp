@@ -138,7 +138,7 @@ void Potencia(benchmark::State& estado) {
 // Terms of far apart exponents: sums, and products without cells for every exponent.
 void SumaDispersa(benchmark::State& estado) {
     Banco banco;
-    Términos<double> términos;
+    TérminosPolinomio<double> términos;
     for (std::int64_t i = 0; i < estado.range(0); ++i)
         términos.push_back({static_cast<double>(i * i * 1000), static_cast<double>(i + 1)});
     const Polinomio p = ReduceTérminos(banco.contexto, términos);

@@ -6,7 +6,7 @@
 #include "engine/desarrollo.h"
 #include "engine/evalua.h"
 #include "engine/numero.h"
-#include "engine/sintaxis.h"
+#include "engine/polinomio.h"
 
 #include <optional>
 #include <utility>
@@ -16,14 +16,8 @@ namespace {
 
 // The line y = pendiente*X + corte in the display form of polynomials.
 std::string TextoRecta(const Contexto& contexto, double pendiente, double corte) {
-    const double m = Redondea(CompruebaFinito(pendiente), contexto.DígitosRedondeo);
-    const double c = Redondea(CompruebaFinito(corte), contexto.DígitosRedondeo);
-    if (m == 0)
-        return TextoNúmero(c);
-    std::string texto = m == 1 ? "X" : m == -1 ? "-X" : TextoNúmero(m) + "*X";
-    if (c != 0)
-        texto += "+" + TextoNúmero(c);
-    return SimplificaSignos(texto);
+    return EscribePolinomio(contexto, TérminosPolinomio<double>{{1, CompruebaFinito(pendiente)},
+                                                                {0, CompruebaFinito(corte)}});
 }
 
 } // namespace

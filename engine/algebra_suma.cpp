@@ -199,26 +199,10 @@ Términos ElevaAFraccionario(TablaSímbolos& tabla, const Términos& base, doubl
     return SumaSímbolo(DevBaseDe(tabla, base), exponente);
 }
 
-bool EsSimpleTrasPotencia(const TablaSímbolos& tabla, const Literal& literal) {
-    if (literal.size() != 1 || literal[0].exponente != 1 || !tabla.EsLlano(literal[0].símbolo))
-        return false;
-    const ClaseBase clase = tabla.BaseDe(literal[0].símbolo).clase;
-    return clase == ClaseBase::Variable || clase == ClaseBase::Función;
-}
-
 Términos ElevaASuma(TablaSímbolos& tabla, const Términos& base, const Términos& exponente) {
     if (EsNúmero(base) && DevNúmero(base) == 1)
         return base;
-    const IdBase id = tabla.IdDe(DevBaseDe(tabla, base));
-    Literal literal;
-    for (const Término& término : exponente)
-        literal.push_back({tabla.ConExponente(id, EscribeLiteral(tabla, término.literal),
-                                              EsSimpleTrasPotencia(tabla, término.literal)),
-                           término.coeficiente});
-    std::ranges::sort(literal, [&](const Factor& a, const Factor& b) {
-        return tabla.Precede(a.símbolo, b.símbolo);
-    });
-    return {{1, std::move(literal)}};
+    return {{1, DevPotenciaDe(tabla, tabla.IdDe(DevBaseDe(tabla, base)), exponente)}};
 }
 
 } // namespace
@@ -229,6 +213,18 @@ Términos MultiplicaSumas(TablaSímbolos& tabla, const Términos& a, const Térm
     if (auto producto = MultiplicaCancelando(tabla, b, a))
         return std::move(*producto);
     return Multiplica(tabla, a, b);
+}
+
+Literal DevPotenciaDe(TablaSímbolos& tabla, IdBase base, const Términos& exponente) {
+    Literal literal;
+    for (const Término& término : exponente)
+        literal.push_back(
+            {tabla.ConExponente(base, término.literal, EscribeLiteral(tabla, término.literal)),
+             término.coeficiente});
+    std::ranges::sort(literal, [&](const Factor& a, const Factor& b) {
+        return tabla.Precede(a.símbolo, b.símbolo);
+    });
+    return literal;
 }
 
 Términos ElevaAEntero(TablaSímbolos& tabla, const Términos& base, double exponente) {

@@ -19,6 +19,9 @@ Términos MultiplicaSumas(TablaSímbolos& tabla, const Términos& a, const Térm
 Términos ElevaSuma(TablaSímbolos& tabla, const Términos& base, const Términos& exponente);
 Términos ElevaAEntero(TablaSímbolos& tabla, const Términos& base, double exponente);
 
+// The factors that are a base to that exponent, in their order.
+Literal DevPotenciaDe(TablaSímbolos& tabla, IdBase base, const Términos& exponente);
+
 struct Fracción {
     Términos numerador;
     Términos denominador = SumaNúmero(1);

@@ -8,6 +8,7 @@
 #include "engine/semejantes.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 #include <optional>
@@ -343,6 +344,35 @@ Términos DevTérminoCociente(TablaSímbolos& tabla, Términos numerador, Térmi
     return {{coeficiente, {{símbolo, 1}}}};
 }
 
+// The exponent of the factors of one base.
+Términos DevExponente(const TablaSímbolos& tabla, std::span<const Factor> factores) {
+    Términos exponente;
+    for (const Factor& factor : factores)
+        exponente.push_back({factor.exponente, tabla.LiteralExponente(factor.símbolo)});
+    return exponente;
+}
+
+// A sum with quotients over one denominator.
+Términos JuntaCocientes(TablaSímbolos& tabla, const Términos& suma) {
+    Fracción total{{}};
+    for (const Término& término : suma) {
+        const Base* const cociente = DevCocienteDe(tabla, término.literal);
+        const Términos uno = SumaNúmero(1);
+        const Términos& denominador = cociente != nullptr ? cociente->denominador : uno;
+        const Términos numerador =
+            cociente != nullptr
+                ? MultiplicaSumas(tabla, SumaNúmero(término.coeficiente), cociente->numerador)
+                : Términos{término};
+        Recolector unido(tabla.contexto);
+        unido.Añade(MultiplicaSumas(tabla, total.numerador, denominador));
+        unido.Añade(MultiplicaSumas(tabla, numerador, total.denominador));
+        const std::array divisores = {total.denominador, denominador};
+        total = ReduceFracción(tabla, unido.Toma(),
+                               MultiplicaSumas(tabla, total.denominador, denominador), divisores);
+    }
+    return DevCociente(tabla, std::move(total.numerador), std::move(total.denominador));
+}
+
 // Whether a quotient with a coefficient is as it would be with the coefficient drawn into it.
 bool EstáReducido(double coeficiente, const Base& cociente) {
     if (std::fabs(coeficiente) == 1)
@@ -350,6 +380,63 @@ bool EstáReducido(double coeficiente, const Base& cociente) {
     const double factor = DevFactorEntero(cociente.denominador);
     return cociente.numerador.size() == 1 &&
            (factor == 0 || !EsEntero(coeficiente) || DevMcd(coeficiente, factor) == 1);
+}
+
+// Whether the exponents read as they would be expanded by themselves: their quotients reduced, and
+// in a complete expansion over one denominator.
+bool EstáAsentado(const TablaSímbolos& tabla, std::span<const Factor> factores) {
+    return std::ranges::all_of(factores, [&](const Factor& factor) {
+        const Base* const cociente = DevCocienteDe(tabla, tabla.LiteralExponente(factor.símbolo));
+        return cociente == nullptr ||
+               (EstáReducido(factor.exponente, *cociente) &&
+                (factores.size() == 1 || tabla.clase == ClaseDesarrollo::Simplificado));
+    });
+}
+
+bool EstánAsentados(const TablaSímbolos& tabla, const Literal& literal) {
+    if (!tabla.HayCocientes())
+        return true;
+    for (std::size_t i = 0; i < literal.size();) {
+        const std::size_t fin = FinDeBase(tabla, literal, i);
+        if (!EstáAsentado(tabla, std::span(literal).subspan(i, fin - i)))
+            return false;
+        i = fin;
+    }
+    return true;
+}
+
+Literal AsientaExponentes(TablaSímbolos& tabla, const Literal& literal) {
+    Literal asentado;
+    for (std::size_t i = 0; i < literal.size();) {
+        const std::size_t fin = FinDeBase(tabla, literal, i);
+        const auto factores = std::span(literal).subspan(i, fin - i);
+        if (EstáAsentado(tabla, factores)) {
+            asentado.insert(asentado.end(), factores.begin(), factores.end());
+        } else {
+            const Términos exponente = DevExponente(tabla, factores);
+            const Literal potencia = DevPotenciaDe(tabla, tabla.IdDe(literal[i].símbolo),
+                                                   tabla.clase == ClaseDesarrollo::Completo
+                                                       ? JuntaCocientes(tabla, exponente)
+                                                       : RedondeaSuma(tabla, exponente));
+            asentado.insert(asentado.end(), potencia.begin(), potencia.end());
+        }
+        i = fin;
+    }
+    return asentado;
+}
+
+bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma) {
+    const int dígitos = tabla.contexto.DígitosRedondeo;
+    return std::ranges::all_of(suma, [&](const Término& t) {
+        const Base* const cociente = DevCocienteDe(tabla, t.literal);
+        return (EsEntero(t.coeficiente) || Redondea(t.coeficiente, dígitos) == t.coeficiente) &&
+               std::ranges::all_of(t.literal,
+                                   [&](const Factor& f) {
+                                       return DevExponenteFinal(tabla, f.exponente) == f.exponente;
+                                   }) &&
+               (cociente == nullptr || EstáReducido(t.coeficiente, *cociente)) &&
+               EstánAsentados(tabla, t.literal);
+    });
 }
 
 Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
@@ -362,6 +449,8 @@ Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
         for (Factor& factor : término.literal)
             factor.exponente = DevExponenteFinal(tabla, factor.exponente);
         std::erase_if(término.literal, [](const Factor& f) { return f.exponente == 0; });
+        if (!EstánAsentados(tabla, término.literal))
+            término.literal = AsientaExponentes(tabla, término.literal);
         const Base* const cociente = DevCocienteDe(tabla, término.literal);
         const double absoluto = std::fabs(coeficiente);
         if (cociente == nullptr || EstáReducido(coeficiente, *cociente)) {
@@ -379,19 +468,6 @@ Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
     std::erase_if(suma, [](const Término& t) { return t.coeficiente == 0; });
     // Rounded exponents can have become whole.
     return MultiplicaSumas(tabla, suma, SumaNúmero(1));
-}
-
-bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma) {
-    const int dígitos = tabla.contexto.DígitosRedondeo;
-    return std::ranges::all_of(suma, [&](const Término& t) {
-        const Base* const cociente = DevCocienteDe(tabla, t.literal);
-        return (EsEntero(t.coeficiente) || Redondea(t.coeficiente, dígitos) == t.coeficiente) &&
-               std::ranges::all_of(t.literal,
-                                   [&](const Factor& f) {
-                                       return DevExponenteFinal(tabla, f.exponente) == f.exponente;
-                                   }) &&
-               (cociente == nullptr || EstáReducido(t.coeficiente, *cociente));
-    });
 }
 
 } // namespace
@@ -413,13 +489,13 @@ Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos deno
             return std::move(f.numerador);
         }
         // A lone term's coefficient stays outside and is rounded with the sum that it joins.
-        constexpr int MáximasVueltas = 3;
         const bool varios = f.numerador.size() > 1;
-        if (vuelta == MáximasVueltas || (EstáRedondeada(tabla, f.denominador) &&
-                                         (!varios || EstáRedondeada(tabla, f.numerador))))
-            return DevTérminoCociente(tabla, std::move(f.numerador), std::move(f.denominador));
-        denominador = RedondeaSuma(tabla, std::move(f.denominador));
-        numerador = varios ? RedondeaSuma(tabla, std::move(f.numerador)) : std::move(f.numerador);
+        denominador = RedondeaSuma(tabla, f.denominador);
+        numerador = varios ? RedondeaSuma(tabla, f.numerador) : f.numerador;
+        constexpr int MáximasVueltas = 3;
+        if (vuelta == MáximasVueltas ||
+            (denominador.size() == f.denominador.size() && numerador.size() == f.numerador.size()))
+            return DevTérminoCociente(tabla, std::move(numerador), std::move(denominador));
     }
 }
 

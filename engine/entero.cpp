@@ -94,6 +94,33 @@ Magnitud Desplaza(std::span<const Palabra> a, std::size_t bits) {
     return desplazada;
 }
 
+// Subtracts q * v from the words of u from j on; true where that went below 0.
+bool RestaMúltiploEn(Magnitud& u, std::size_t j, const Magnitud& v, Palabra q) {
+    Palabra prestado = 0;
+    Palabra acarreo = 0;
+    for (std::size_t i = 0; i < v.size(); ++i) {
+        const DoblePalabra producto = q * DoblePalabra{v[i]} + acarreo;
+        acarreo = Alta(producto);
+        const DoblePalabra resta = DoblePalabra{u[i + j]} - Baja(producto) - prestado;
+        u[i + j] = Baja(resta);
+        prestado = Alta(resta) & 1;
+    }
+    const DoblePalabra resta = DoblePalabra{u[j + v.size()]} - acarreo - prestado;
+    u[j + v.size()] = Baja(resta);
+    return Alta(resta) != 0;
+}
+
+// Adds v back to the words of u from j on, which have gone below 0.
+void DevuelveEn(Magnitud& u, std::size_t j, const Magnitud& v) {
+    Palabra acarreo = 0;
+    for (std::size_t i = 0; i < v.size(); ++i) {
+        const DoblePalabra total = DoblePalabra{u[i + j]} + v[i] + acarreo;
+        u[i + j] = Baja(total);
+        acarreo = Alta(total);
+    }
+    u[j + v.size()] += acarreo;
+}
+
 // The dividend becomes the remainder. Knuth's algorithm D; the divisor has at least two words.
 Magnitud DivideLarga(Magnitud& dividendo, std::span<const Palabra> divisor) {
     const auto normal = static_cast<std::size_t>(std::countl_zero(divisor.back()));
@@ -113,26 +140,9 @@ Magnitud DivideLarga(Magnitud& dividendo, std::span<const Palabra> divisor) {
             if (Alta(r) != 0)
                 break;
         }
-        Palabra prestado = 0;
-        Palabra acarreo = 0;
-        for (std::size_t i = 0; i < n; ++i) {
-            const DoblePalabra producto = Baja(q) * DoblePalabra{v[i]} + acarreo;
-            acarreo = Alta(producto);
-            const DoblePalabra resta = DoblePalabra{u[i + j]} - Baja(producto) - prestado;
-            u[i + j] = Baja(resta);
-            prestado = Alta(resta) & 1;
-        }
-        const DoblePalabra resta = DoblePalabra{u[j + n]} - acarreo - prestado;
-        u[j + n] = Baja(resta);
-        if (Alta(resta) != 0) { // q was one too large
+        if (RestaMúltiploEn(u, j, v, Baja(q))) { // q was one too large
             --q;
-            Palabra suma = 0;
-            for (std::size_t i = 0; i < n; ++i) {
-                const DoblePalabra total = DoblePalabra{u[i + j]} + v[i] + suma;
-                u[i + j] = Baja(total);
-                suma = Alta(total);
-            }
-            u[j + n] += suma;
+            DevuelveEn(u, j, v);
         }
         cociente[j] = Baja(q);
     }
@@ -392,7 +402,7 @@ double DevCociente(const Entero& dividendo, const Entero& divisor) {
             : Entero::Divide(dividendo, divisor.Desplazado(static_cast<std::size_t>(-escala)));
     cociente = cociente.Desplazado(1);
     if (!resto.EsCero())
-        cociente += dividendo.Signo() * divisor.Signo();
+        cociente += dividendo.Signo() == divisor.Signo() ? 1 : -1;
     constexpr std::int64_t MuyLejos = 8192; // beyond every exponent of a Double
     return std::ldexp(cociente.ADouble(),
                       static_cast<int>(std::clamp(-escala - 1, -MuyLejos, MuyLejos)));

@@ -43,6 +43,7 @@ private:
     void EscribeExponente(std::span<const Factor> factores);
     void EscribeSumaExponente(std::span<const Factor> factores, double escala);
     void EscribeDenominador(const Términos& denominador);
+    bool EsSimple(const Literal& literal) const;
     double Redondeado(double coeficiente) const { return Redondea(coeficiente, dígitos_); }
 
     const TablaSímbolos& tabla_;
@@ -125,8 +126,8 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         return;
     }
     texto += '^';
-    if (factores.size() == 1 && tabla_.EsExponenteSimple(primero.símbolo) &&
-        std::fabs(primero.exponente) == 1) {
+    if (factores.size() == 1 && std::fabs(primero.exponente) == 1 &&
+        EsSimple(tabla_.LiteralExponente(primero.símbolo))) {
         if (primero.exponente < 0)
             texto += '-';
         texto += tabla_.TextoExponente(primero.símbolo);
@@ -145,6 +146,14 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         EscribeNúmero(q);
     }
     texto += ')';
+}
+
+// A lone variable or function, which needs no parentheses behind "^".
+bool Escritor::EsSimple(const Literal& literal) const {
+    if (literal.size() != 1 || literal[0].exponente != 1 || !tabla_.EsLlano(literal[0].símbolo))
+        return false;
+    const ClaseBase clase = tabla_.BaseDe(literal[0].símbolo).clase;
+    return clase == ClaseBase::Variable || clase == ClaseBase::Función;
 }
 
 void Escritor::EscribeSumaExponente(std::span<const Factor> factores, double escala) {

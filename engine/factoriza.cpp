@@ -1,6 +1,7 @@
 #include "engine/factoriza.h"
 
 #include "engine/compila.h"
+#include "engine/division.h"
 #include "engine/mcd_polinomios.h"
 #include "engine/numero.h"
 #include "engine/raices.h"
@@ -15,7 +16,7 @@ namespace {
 constexpr double MáximoGradoSinCuadrados = 1000;
 
 Polinomio DerivaExacto(const PolinomioExacto& p) {
-    Términos<Entero> derivada;
+    TérminosPolinomio<Entero> derivada;
     for (const auto& [exponente, coeficiente] : p.términos)
         if (exponente != 0)
             derivada.push_back({exponente - 1, coeficiente * Entero::DesdeDouble(exponente)});

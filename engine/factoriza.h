@@ -15,7 +15,7 @@ namespace quiralto {
 // the polynomial as it stands.
 //
 // Leaves ErrorCódigo clear. Fault: run-time error 6 for a polynomial of more terms than a program
-// has instructions, 14 for a quotient past MáximoTérminos.
+// has instructions, 14 for a quotient past MáximoTérminosPolinomio.
 std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, double a, double b,
                                double h);
 

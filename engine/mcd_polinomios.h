@@ -16,7 +16,7 @@ namespace quiralto {
 // of at most DígitosRedondeo places and 15 digits is scaled to whole coefficients without a common
 // factor and a positive leading one. The other polynomial where one is 0. A constant says that
 // there is no common factor.
-// Fault: run-time error 14 where both have a degree past MáximoTérminos.
+// Fault: run-time error 14 where both have a degree past MáximoTérminosPolinomio.
 Polinomio MCDPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio& q);
 
 // A common factor of highest degree to divide both by: for exact polynomials with whole
@@ -26,7 +26,7 @@ Polinomio DevFactorComún(Contexto& contexto, const Polinomio& p, const Polinomi
 
 // The quotient where the divisor (not 0) leaves no remainder; otherwise none. On exact data it is
 // exact, and found out before any coefficient grows.
-// Fault: run-time error 14 for a quotient that could pass MáximoTérminos.
+// Fault: run-time error 14 for a quotient that could pass MáximoTérminosPolinomio.
 std::optional<Polinomio> DivideSiExacta(Contexto& contexto, const Polinomio& dividendo,
                                         const Polinomio& divisor);
 

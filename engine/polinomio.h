@@ -1,5 +1,5 @@
-// Polynomials in X: their value, their text and their arithmetic. mcd_polinomios.h holds what goes
-// by common factors, racional.h the quotients of two.
+// Polynomials in X: their value, their text and their arithmetic. division.h divides them,
+// mcd_polinomios.h holds what goes by common factors, racional.h the quotients of two.
 //
 // The value is a list of terms, highest exponent first, each exponent once, no coefficient 0; the
 // zero polynomial has no term. Exponents are real numbers and are compared as such. A polynomial is
@@ -13,55 +13,45 @@
 
 #include "engine/contexto.h"
 #include "engine/entero.h"
+#include "engine/terminos.h"
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
-#include <vector>
 
 namespace quiralto {
-
-// More terms than this are run-time error 14: past every use, and far below what memory holds.
-inline constexpr std::size_t MáximoTérminos = 65536;
 
 // A coefficient, numerator or denominator, of more bits turns its polynomial into a real one.
 inline constexpr std::size_t MáximoBitsExactos = 2048;
 
-template <typename Coeficiente> struct Término {
-    double exponente;
-    Coeficiente coeficiente;
-};
-template <typename Coeficiente> using Términos = std::vector<Término<Coeficiente>>;
-
 // The sum of the terms, divided by the denominator, which is positive and has no factor in common
 // with all the coefficients.
 struct PolinomioExacto {
-    Términos<Entero> términos;
+    TérminosPolinomio<Entero> términos;
     Entero denominador = 1;
 };
-using PolinomioReal = Términos<double>;
+using PolinomioReal = TérminosPolinomio<double>;
 using Polinomio = std::variant<PolinomioExacto, PolinomioReal>;
 
 // --- Text
 
 // The terms of a text in the display form, as they stand: neither ordered nor collected; none for
 // an empty text. Fault: run-time error 6 for a number beyond the Double range.
-Términos<double> LeePolinomio(std::string_view texto);
+TérminosPolinomio<double> LeePolinomio(std::string_view texto);
 
 // Orders the terms, highest exponent first, and collects those of equal exponents. The result is
 // exact where every coefficient is a decimal of at most DígitosRedondeo places in the general
 // number form.
-Polinomio ReduceTérminos(const Contexto& contexto, Términos<double> términos);
+Polinomio ReduceTérminos(const Contexto& contexto, TérminosPolinomio<double> términos);
 
 // The display form: coefficients and exponents rounded to DígitosRedondeo, terms of coefficient 0
 // left out, "0" where none is left.
-std::string EscribePolinomio(const Contexto& contexto, const Términos<double>& términos);
+std::string EscribePolinomio(const Contexto& contexto, const TérminosPolinomio<double>& términos);
 std::string EscribePolinomio(const Contexto& contexto, const Polinomio& p);
 std::string EscribePolinomio(const Contexto& contexto, std::string_view texto);
 
-// The value that the display form has: what rounding changes is changed, the result is exact.
+// With the coefficients that the display form writes; the result is exact.
 Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p);
 
 // --- Values
@@ -73,6 +63,10 @@ Polinomio DevConstanteCalculada(const Contexto& contexto, double valor);
 // X^exponente
 Polinomio DevPotenciaDeX(double exponente);
 
+// The exact value where the polynomial is exact, otherwise none.
+inline const PolinomioExacto* SiExacto(const Polinomio& p) {
+    return std::get_if<PolinomioExacto>(&p);
+}
 PolinomioReal AReal(const Polinomio& p);
 
 bool EsCero(const Polinomio& p);
@@ -86,24 +80,17 @@ int SignoPrincipal(const Polinomio& p);            // of the leading coefficient
 // From whole coefficients (ordered, each exponent once, zeros allowed) over a denominator that is
 // not 0. Fault: run-time error 6 where a coefficient is beyond the Double range, 14 for too many
 // terms.
-Polinomio DevExacto(Términos<Entero> términos, Entero denominador);
+Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador);
+
+// From terms in order, each exponent once, zeros allowed. Faults as above.
+Polinomio DevReal(PolinomioReal términos);
 
 // Faults of the arithmetic: run-time error 6 where a coefficient leaves the Double range or an
-// exponent the whole numbers that a Double tells apart; 14 past MáximoTérminos. The watcher is
-// asked. Sums cost the terms read; products the pairs of terms.
+// exponent the whole numbers that a Double tells apart; 14 past MáximoTérminosPolinomio. The
+// watcher is asked. Sums cost the terms read; products the pairs of terms.
 Polinomio SumaPolinomios(const Polinomio& p, const Polinomio& q);
 Polinomio RestaPolinomios(const Polinomio& p, const Polinomio& q);
 Polinomio MultiplicaPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio& q);
 Polinomio CambiaSigno(Polinomio p);
-
-struct División {
-    Polinomio cociente;
-    Polinomio resto;
-};
-
-// Long division: dividendo = divisor * cociente + resto, with a remainder whose leading exponent is
-// below the divisor's. Exact for exact polynomials; for others every remainder is rounded to
-// DígitosRedondeo. Fault: run-time error 11 for the divisor 0.
-División DividePolinomios(Contexto& contexto, const Polinomio& dividendo, const Polinomio& divisor);
 
 } // namespace quiralto

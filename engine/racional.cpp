@@ -1,5 +1,6 @@
 #include "engine/racional.h"
 
+#include "engine/division.h"
 #include "engine/evalua.h"
 #include "engine/mcd_polinomios.h"
 #include "engine/numero.h"
@@ -154,7 +155,7 @@ std::string_view DevAviso(int número) {
 
 Entero DevContenido(const PolinomioExacto& p) {
     Entero contenido = 0;
-    for (const Término<Entero>& t : p.términos)
+    for (const TérminoPolinomio<Entero>& t : p.términos)
         if (!contenido.EsUno())
             contenido = DevMCD(contenido, t.coeficiente);
     return contenido;
@@ -164,9 +165,9 @@ Entero DevContenido(const PolinomioExacto& p) {
 void QuitaDenominadores(Polinomio& numerador, Polinomio& denominador) {
     auto n = std::get<PolinomioExacto>(numerador);
     auto d = std::get<PolinomioExacto>(denominador);
-    for (Término<Entero>& t : n.términos)
+    for (TérminoPolinomio<Entero>& t : n.términos)
         t.coeficiente *= d.denominador;
-    for (Término<Entero>& t : d.términos)
+    for (TérminoPolinomio<Entero>& t : d.términos)
         t.coeficiente *= n.denominador;
     numerador = DevExacto(std::move(n.términos), 1);
     denominador = DevExacto(std::move(d.términos), 1);
@@ -196,7 +197,7 @@ void ArreglaCoeficientes(Contexto& contexto, Polinomio& numerador, Polinomio& de
 // The common factor times the greatest number that leaves the coefficients of both whole, or as
 // they were where they are not; so that the lcm of a function with itself is that function.
 Polinomio DevFactorComúnConContenido(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
-    const Polinomio común = DevFactorComún(contexto, p, q);
+    Polinomio común = DevFactorComún(contexto, p, q);
     const auto* const a = std::get_if<PolinomioExacto>(&p);
     const auto* const b = std::get_if<PolinomioExacto>(&q);
     if (a == nullptr || b == nullptr)
@@ -243,7 +244,7 @@ Racional LeeRacional(const Contexto& contexto, std::string_view texto) {
 }
 
 std::string SeparaRacional(const Contexto& contexto, const Racional& r) {
-    const std::string numerador = EscribePolinomio(contexto, r.numerador);
+    std::string numerador = EscribePolinomio(contexto, r.numerador);
     if (EsPolinomio(r))
         return numerador;
     return "(" + numerador + ")/(" + EscribePolinomio(contexto, r.denominador) + ")";
@@ -291,13 +292,13 @@ void NormalizaFracción(Polinomio& numerador, Polinomio& denominador) {
     auto& d = std::get<PolinomioExacto>(denominador).términos;
     Entero común = 0;
     for (const auto* const términos : {&n, &d})
-        for (const Término<Entero>& t : *términos)
+        for (const TérminoPolinomio<Entero>& t : *términos)
             if (!común.EsUno())
                 común = DevMCD(común, t.coeficiente);
     if (común.EsCero() || común.EsUno())
         return;
     for (auto* const términos : {&n, &d})
-        for (Término<Entero>& t : *términos)
+        for (TérminoPolinomio<Entero>& t : *términos)
             t.coeficiente = Entero::Divide(t.coeficiente, común).cociente;
 }
 

@@ -51,7 +51,7 @@ Racional DevMCMRacionales(Contexto& contexto, std::span<const Racional> funcione
 
 // The formula as one rational function, by running its program over rational functions. Functions
 // apply to constants alone. Faults: run-time errors 5, 6 and 11 as in a numeric evaluation, 129 for
-// a formula that is not a rational function of X; 14 past MáximoTérminos.
+// a formula that is not a rational function of X; 14 past MáximoTérminosPolinomio.
 Racional CalculaRacional(Contexto& contexto, const Programa& programa);
 
 // The same for a user's formula: of the errors 5, 6, 11 and 129 the number is left in ErrorCódigo

@@ -28,7 +28,7 @@ std::uint64_t DevClave(const Base& base) {
 
 TablaSímbolos::TablaSímbolos(Contexto& contextoDeLaOrden, ClaseDesarrollo claseDelDesarrollo)
     : contexto(contextoDeLaOrden), clase(claseDelDesarrollo) {
-    exponentes_.push_back({"", false});
+    exponentes_.emplace_back();
     exponentePorTexto_.emplace("", 0);
 }
 
@@ -52,14 +52,15 @@ IdSímbolo TablaSímbolos::DevBase(Base base) {
     return bases_.back().símbolo;
 }
 
-IdSímbolo TablaSímbolos::ConExponente(IdBase base, const std::string& literal, bool simple) {
+IdSímbolo TablaSímbolos::ConExponente(IdBase base, const Literal& literal,
+                                      const std::string& texto) {
     if (literal.empty())
         return bases_[base].símbolo;
     const auto [exponente, nuevo] =
-        exponentePorTexto_.emplace(literal, static_cast<std::uint32_t>(exponentes_.size()));
+        exponentePorTexto_.emplace(texto, static_cast<std::uint32_t>(exponentes_.size()));
     if (nuevo) {
-        CuentaTexto(literal.size());
-        exponentes_.push_back({literal, simple});
+        CuentaTexto(texto.size());
+        exponentes_.push_back({texto, literal});
     }
     const std::uint64_t pareja = std::uint64_t{base} << 32 | exponente->second;
     const auto [símbolo, nueva] =

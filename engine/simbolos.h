@@ -74,9 +74,8 @@ public:
     IdSímbolo DevVariable(double lugar, std::string texto);
     IdSímbolo DevBase(Base base);
 
-    // The same base with one more factor in its exponent (the text of a literal part; "" for 1).
-    // `simple`: a lone variable or function, which needs no parentheses behind "^".
-    IdSímbolo ConExponente(IdBase base, const std::string& literal, bool simple);
+    // The same base with a literal part as its exponent; `texto` is the literal part's.
+    IdSímbolo ConExponente(IdBase base, const Literal& literal, const std::string& texto);
 
     const Base& BaseDe(IdSímbolo s) const { return bases_[símbolos_[s].base]; }
     IdBase IdDe(IdSímbolo s) const { return símbolos_[s].base; }
@@ -85,7 +84,9 @@ public:
     const std::string& TextoExponente(IdSímbolo s) const {
         return exponentes_[símbolos_[s].exponente].texto;
     }
-    bool EsExponenteSimple(IdSímbolo s) const { return exponentes_[símbolos_[s].exponente].simple; }
+    const Literal& LiteralExponente(IdSímbolo s) const {
+        return exponentes_[símbolos_[s].exponente].literal;
+    }
 
     // The order of the factors of a literal part.
     bool Precede(IdSímbolo a, IdSímbolo b) const {
@@ -102,7 +103,7 @@ public:
 private:
     struct Exponente {
         std::string texto;
-        bool simple;
+        Literal literal;
     };
 
     bool PrecedePorTexto(IdSímbolo a, IdSímbolo b) const;
@@ -111,7 +112,7 @@ private:
     std::deque<Base> bases_; // references to them stay valid
     std::vector<Símbolo> símbolos_;
     std::vector<std::uint64_t> claves_; // of the base of each symbol
-    std::vector<Exponente> exponentes_;
+    std::deque<Exponente> exponentes_;
     std::unordered_map<std::string, IdSímbolo> porTexto_;
     std::unordered_map<std::string, std::uint32_t> exponentePorTexto_;
     std::unordered_map<std::uint64_t, IdSímbolo> porPareja_; // base and literal exponent

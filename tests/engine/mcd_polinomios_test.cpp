@@ -1,6 +1,7 @@
 #include "engine/mcd_polinomios.h"
 
 #include "apoyo.h"
+#include "engine/division.h"
 
 #include <gtest/gtest.h>
 
@@ -20,7 +21,7 @@ protected:
     }
     // With whole coefficients up to `máximo` and a leading one that is not 0.
     Polinomio DevAleatorio(int grado, int máximo) {
-        Términos<double> términos;
+        TérminosPolinomio<double> términos;
         const auto uno = [&] {
             return static_cast<double>(azar() % static_cast<std::uint64_t>(2 * máximo + 1)) -
                    máximo;
