@@ -1,6 +1,7 @@
 // Common factors and products of polynomials, beside GiNaC. The two gcds of a pair do the same
 // work: expanded polynomials with whole coefficients in, their gcd out.
 
+#include "bench/apoyo.h"
 #include "engine/compila.h"
 #include "engine/mcd_polinomios.h"
 #include "engine/racional.h"
@@ -13,19 +14,6 @@
 
 namespace quiralto::bench {
 namespace {
-
-class Silencio : public Mensajes {
-    void Muestra(Icono, std::string_view) override {}
-};
-class SinVigilante : public Vigilante {
-    bool Continúa() override { return true; }
-};
-
-struct Banco {
-    Silencio silencio;
-    SinVigilante vigilante;
-    Contexto contexto{silencio, vigilante};
-};
 
 // Two products of eight factors (X-a), four of them in both.
 const std::vector<int> Primero = {-9, -4, 1, 7, 2, -3, 5, 8};
