@@ -1,5 +1,6 @@
 #include "ui/arranque.h"
 
+#include "commands/fichero_primos.h"
 #include "ui/frm_quiralto.h"
 
 #include <QEventLoop>
@@ -13,9 +14,10 @@ void Retardo(std::chrono::milliseconds tiempo) {
     bucle.exec();
 }
 
-void Arranca(frmGráficas& formulario, std::chrono::milliseconds retardo) {
+void Arranca(Contexto& contexto, frmGráficas& formulario, std::chrono::milliseconds retardo) {
     frmQuiralto presentación;
     presentación.show();
+    CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
     Retardo(retardo);
     formulario.Comienza();
 }

@@ -15,6 +15,7 @@ void Retardo(std::chrono::milliseconds tiempo);
 
 // Runs the start-up order on the form, which is not shown yet, and returns with the splash form
 // unloaded.
-void Arranca(frmGráficas& formulario, std::chrono::milliseconds retardo = RetardoInicial);
+void Arranca(Contexto& contexto, frmGráficas& formulario,
+             std::chrono::milliseconds retardo = RetardoInicial);
 
 } // namespace quiralto

@@ -5,6 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QPaintEngine>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -92,10 +93,17 @@ qreal DevLugarY(const Lienzo& lienzo, const EscenaGráfica& escena, double y) {
 void DibujaRótulo(QPainter& pintor, const Lienzo& lienzo, const QPointF& base,
                   const QString& texto) {
     const qreal g = lienzo.grosor;
-    pintor.setPen(Papel);
-    for (const QPointF& desvío : {QPointF(-g, -g), QPointF(0, -g), QPointF(g, -g), QPointF(-g, 0),
-                                  QPointF(g, 0), QPointF(-g, g), QPointF(0, g), QPointF(g, g)})
-        pintor.drawText(base + desvío, texto);
+    if (EsRáster(pintor)) {
+        pintor.setPen(Papel);
+        for (const QPointF& desvío :
+             {QPointF(-g, -g), QPointF(0, -g), QPointF(g, -g), QPointF(-g, 0), QPointF(g, 0),
+              QPointF(-g, g), QPointF(0, g), QPointF(g, g)})
+            pintor.drawText(base + desvío, texto);
+    } else { // there the text is to stand once, for whoever searches or copies it
+        QPainterPath contorno;
+        contorno.addText(base, QFont(pintor.font(), pintor.device()), texto);
+        pintor.strokePath(contorno, QPen(Papel, 2 * g, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
     pintor.setPen(ColorTexto);
     pintor.drawText(base, texto);
 }

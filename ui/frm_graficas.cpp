@@ -129,7 +129,8 @@ void frmGráficas::CreaMenús() {
     CreaMenúArchivo();
     QMenu* gráfica = menuBar()->addMenu(QStringLiteral("&Gráfica"));
     gráfica->setObjectName(QStringLiteral("MenúGráfica"));
-    CreaMenúsGráfica(*gráfica, contexto_, *control_, [this] { marco_->Ver(); });
+    CreaMenúsGráfica(*gráfica, contexto_, *control_,
+                     [this] { VerMarcoConfiguraciónPuntosExtremos(); });
     QMenu* hoja = menuBar()->addMenu(QStringLiteral("&Hoja"));
     hoja->setObjectName(QStringLiteral("MenúHoja"));
     CreaMenúsÓrdenes(*hoja, DevÓrdenes(),
@@ -169,6 +170,11 @@ void frmGráficas::CreaMenúAyuda() {
     QAction* acerca = ayuda->addAction(QStringLiteral("Acerca de"));
     acerca->setObjectName(QStringLiteral("AcercaDe"));
     connect(acerca, &QAction::triggered, this, [this] { Muestra(acercaDe_); });
+}
+
+void frmGráficas::VerMarcoConfiguraciónPuntosExtremos() {
+    marco_->ActualizaExtremos(vista_.DevVentana()); // whatever was typed and cancelled is gone
+    marco_->Ver();
 }
 
 // Made on first use.

@@ -38,6 +38,7 @@ private:
     void CreaMenúArchivo();
     void CreaMenúAyuda();
 
+    void VerMarcoConfiguraciónPuntosExtremos();
     template <typename Imprime> void ConImpresora(Imprime imprime);
     void ImprimirGráfica_Click();
     void ImprimirTexto_Click();

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     quiralto::Contexto contexto(mensajes, vigilante);
     quiralto::ImpresoraDelSistema impresora;
     quiralto::frmGráficas formulario(contexto, vigilante, impresora);
-    quiralto::Arranca(formulario);
+    quiralto::Arranca(contexto, formulario);
     formulario.show();
     return QApplication::exec();
 }

@@ -26,6 +26,7 @@ QWidget* CreaMarcoBarra(const DatosBarra& datos, Qt::Orientation orientación, b
     barra->setPageStep(datos.página);
     barra->setValue(0);
     barra->setTracking(!vuelveA0);
+    barra->setInvertedControls(!horizontal); // as a rule the right arrow goes to the left
     auto* etiqueta = new QLabel(datos.título, marco);
     etiqueta->setBuddy(barra);
     if (!horizontal) {

@@ -3,7 +3,10 @@
 #include "tests/proceso.h"
 #include "tests/ui/ventana_de_prueba.h"
 
-#include <QFile>
+#include <QImage>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace quiralto {
 namespace {
@@ -76,6 +79,61 @@ TEST_F(Impresión, UnaLíneaAnchaCabeEnLaPágina) {
     };
     EXPECT_GT(valor("xMax"), 400);
     EXPECT_LE(valor("xMax"), valor("width"));
+}
+
+// How many pixels of the page have a colour, more or less.
+int Cuenta(const QImage& imagen, int rojo, int verde, int azul) {
+    int cuenta = 0;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x) {
+            const QRgb p = imagen.pixel(x, y);
+            cuenta += std::abs(qRed(p) - rojo) < 60 && std::abs(qGreen(p) - verde) < 60 &&
+                              std::abs(qBlue(p) - azul) < 60
+                          ? 1
+                          : 0;
+        }
+    return cuenta;
+}
+
+TEST_F(Impresión, LaGráficaSeImprimeEnUnaPáginaConSusFuncionesEnColor) {
+    Define(1, "X^2-4");
+    Define(3, "SIN(X)+5");
+    Pulsa("ImprimirGráfica");
+    const auto páginas = DevPáginas();
+    ASSERT_EQ(páginas.size(), 1U);
+    const std::vector<std::string>& líneas = páginas[0];
+    ASSERT_GT(líneas.size(), 10U); // unit marks among them
+    EXPECT_EQ(líneas[líneas.size() - 2], "f1(X)=X^2-4");
+    EXPECT_EQ(líneas.back(), "f3(X)=SIN(X)+5");
+    QStringList palabras;
+    for (const std::string& línea : líneas)
+        palabras += QString::fromStdString(línea).split(u' ', Qt::SkipEmptyParts);
+    for (const char* marca : {"8", "-8", "4", "-4", "5", "-5"})
+        EXPECT_EQ(palabras.count(QString::fromLatin1(marca)), 1)
+            << marca << " in " << palabras.join(u' ').toStdString();
+
+    const Final final = Ejecuta({
+        .palabras = {"/usr/bin/pdftoppm", "-r", "50", "-png", "-singlefile",
+                     impresora.fichero.toStdString(),
+                     carpeta.filePath(QStringLiteral("hoja")).toStdString()},
+        .entrada = {},
+        .entorno = {},
+    });
+    ASSERT_EQ(final.estado, 0) << final.errores;
+    const QImage página(carpeta.filePath(QStringLiteral("hoja.png")));
+    EXPECT_GT(Cuenta(página, 255, 0, 255), 50);
+    EXPECT_GT(Cuenta(página, 0, 0, 255), 50);
+    EXPECT_EQ(Cuenta(página, 255, 0, 0), 0);
+}
+
+TEST_F(Impresión, UnaFunciónLarguísimaDejaSitioALaGráfica) {
+    const QString larga = QStringLiteral("X+").repeated(3000) + u'X';
+    auto& caja = Busca<QLineEdit>("txtfx_0");
+    caja.setText(larga);
+    QTest::keyClick(&caja, Qt::Key_Return);
+    Pulsa("ImprimirGráfica");
+    EXPECT_EQ(DevPáginas().size(), 1U);
+    EXPECT_TRUE(grabados.mensajes.empty());
 }
 
 TEST_F(Impresión, CancelarElDiálogoNoImprime) {

@@ -2,6 +2,7 @@
 // file.
 #pragma once
 
+#include "commands/fichero_primos.h"
 #include "tests/apoyo.h"
 #include "ui/frm_graficas.h"
 #include "ui/texto_qt.h"
@@ -29,6 +30,7 @@ public:
 class VentanaDePrueba : public testing::Test {
 protected:
     VentanaDePrueba() {
+        CargaPrimos(contexto, QUIRALTO_PRIMOS);
         formulario.show();
         formulario.activateWindow();
         QApplication::setActiveWindow(&formulario);
@@ -44,6 +46,26 @@ protected:
     }
 
     void Pulsa(const char* acción) { Busca<QAction>(acción).trigger(); }
+
+    QString DevTexto(const char* caja) { return Busca<QLineEdit>(caja).text(); }
+
+    // Types a function and switches it on with Enter.
+    void Define(int índice, const char* función) {
+        auto& caja = Busca<QLineEdit>(("txtfx_" + std::to_string(índice)).c_str());
+        caja.setFocus();
+        QTest::keyClick(&caja, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(&caja, QString::fromLatin1(función));
+        QTest::keyClick(&caja, Qt::Key_Return);
+    }
+
+    // The extremes as their boxes show them: right, left, upper, lower.
+    std::vector<std::string> DevExtremos() {
+        std::vector<std::string> extremos;
+        for (int i = 0; i < 4; ++i)
+            extremos.push_back(
+                DevTexto(("txtPuntosExtremos_" + std::to_string(i)).c_str()).toStdString());
+        return extremos;
+    }
 
     // Runs a command on a worksheet (lines ended by LF) and returns what it leaves.
     std::string Resuelve(const QString& hoja, const char* acción) {

@@ -1,0 +1,101 @@
+// Help, About, the splash form and the start of the program.
+
+#include "tests/ui/ventana_de_prueba.h"
+#include "ui/arranque.h"
+#include "ui/form_ayuda.h"
+
+#include <QElapsedTimer>
+#include <QPushButton>
+
+namespace quiralto {
+namespace {
+
+class Formularios : public VentanaDePrueba {};
+
+TEST_F(Formularios, LaAyudaMuestraSuTextoUnaSolaVez) {
+    Pulsa("Contenido");
+    auto& ayuda = Busca<QWidget>("formAyuda");
+    EXPECT_TRUE(ayuda.isVisible());
+    EXPECT_EQ(ayuda.windowTitle(), QStringLiteral("Temas de ayuda"));
+    EXPECT_EQ(ayuda.findChild<QLabel*>(QStringLiteral("Label1"))->text(),
+              QStringLiteral("SELECCIONE UN TEMA DE AYUDA"));
+    auto& tema = Busca<QPushButton>("cmdAyuda");
+    EXPECT_EQ(tema.text(), QStringLiteral("TIPO DE NOTACIÓN ACEPTADA POR EL PROGRAMA"));
+    auto& texto = Busca<QPlainTextEdit>("txtAyuda");
+    EXPECT_TRUE(texto.isReadOnly());
+    EXPECT_EQ(texto.toPlainText(), QString());
+    tema.click();
+    tema.click();
+    const QStringList líneas = texto.toPlainText().split(u'\n');
+    ASSERT_EQ(líneas.size(), 28 + 1 + 1 + 26);
+    EXPECT_EQ(líneas[0],
+              QStringLiteral("EL PROGRAMA RECONOCE COMO OPERADORES MATEMATICOS LOS SIGUIENTES: "));
+    EXPECT_EQ(líneas[1], QString());
+    EXPECT_EQ(líneas[3], QStringLiteral("- (RESTA) "));
+    EXPECT_EQ(líneas[4], QStringLiteral("* (MULTIPLICACIÓN) "));
+    EXPECT_EQ(líneas.last(), QStringLiteral("(SIN(A+B)*COS(X-Y)+3*X*Y)^3 <--EXPRESION SOLO VALIDA "
+                                            "EN DESARROLLO MULTIVARIABLE"));
+    EXPECT_TRUE(líneas.contains(QStringLiteral("VARIABLES Y CONSTANTES PERMITIDAS :")));
+    EXPECT_TRUE(
+        líneas.contains(QStringLiteral("'A' HASTA 'Z', ESTAS VARIABLES SOLO SE PERMITEN EL EL ")));
+}
+
+TEST_F(Formularios, LosSaltosDeLaAyudaSonCrLf) {
+    const QString texto = DevTextoAyuda();
+    EXPECT_EQ(texto.count(QStringLiteral("\r\n")), texto.count(u'\n'));
+    EXPECT_TRUE(texto.contains(QStringLiteral(":\r\n\r\nSON NUMEROS")));
+}
+
+TEST_F(Formularios, AcercaDeNombraElProgramaYSeCierra) {
+    EXPECT_EQ(Busca<QAction>("AcercaDe").text(), QStringLiteral("Acerca de"));
+    Pulsa("AcercaDe");
+    auto& acerca = Busca<QWidget>("forAcercaDe");
+    EXPECT_TRUE(acerca.isVisible());
+    const QString texto = acerca.findChild<QLabel*>(QStringLiteral("Label1"))->text();
+    EXPECT_TRUE(texto.contains(QStringLiteral("Quiralto")));
+    EXPECT_TRUE(texto.contains(QStringLiteral("comentarios y sugerencias")));
+    auto* cerrar = acerca.findChild<QPushButton*>(QStringLiteral("Command1"));
+    ASSERT_NE(cerrar, nullptr);
+    EXPECT_EQ(cerrar->text(), QStringLiteral("Cerrar"));
+    cerrar->click();
+    EXPECT_FALSE(acerca.isVisible());
+    Pulsa("AcercaDe");
+    EXPECT_TRUE(acerca.isVisible());
+}
+
+TEST_F(Formularios, SalirCierraTodosLosFormularios) {
+    Pulsa("Contenido");
+    Pulsa("AcercaDe");
+    Pulsa("Salir");
+    EXPECT_FALSE(Busca<QWidget>("formAyuda").isVisible());
+    EXPECT_FALSE(Busca<QWidget>("forAcercaDe").isVisible());
+    EXPECT_FALSE(formulario.isVisible());
+}
+
+TEST(Arranque, MuestraLaPresentaciónYDejaLaVistaInicial) {
+    MensajesGrabados grabados;
+    VigilanteVentana vigilante;
+    Contexto contexto(grabados, vigilante);
+    contexto.DígitosRedondeo = 3;
+    ImpresoraDePrueba impresora;
+    frmGráficas formulario(contexto, vigilante, impresora);
+    bool vista = false;
+    QTimer::singleShot(100, [&] {
+        for (const QWidget* ventana : QApplication::topLevelWidgets())
+            vista = vista || (ventana->objectName() == QStringLiteral("frmQuiralto") &&
+                              ventana->isVisible());
+        EXPECT_FALSE(formulario.isVisible());
+    });
+    QElapsedTimer reloj;
+    reloj.start();
+    Arranca(contexto, formulario, std::chrono::milliseconds(300));
+    EXPECT_GE(reloj.elapsed(), 300);
+    EXPECT_TRUE(vista);
+    for (const QWidget* ventana : QApplication::topLevelWidgets())
+        EXPECT_NE(ventana->objectName(), QStringLiteral("frmQuiralto"));
+    EXPECT_EQ(contexto.DígitosRedondeo, 8);
+    EXPECT_EQ(RetardoInicial, std::chrono::seconds(2));
+}
+
+} // namespace
+} // namespace quiralto

@@ -1,0 +1,248 @@
+// The picture, pixel by pixel.
+
+#include "tests/ui/ventana_de_prueba.h"
+
+#include <QClipboard>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace quiralto {
+namespace {
+
+const QRgb Negro = qRgb(0, 0, 0);
+const QRgb Magenta = qRgb(255, 0, 255);
+const QRgb Rojo = qRgb(255, 0, 0);
+const QRgb Azul = qRgb(0, 0, 255);
+
+class Visor : public VentanaDePrueba {
+protected:
+    Visor() { visor.setFixedSize(601, 401); }
+
+    QImage DevImagen() {
+        QApplication::processEvents();
+        return dynamic_cast<VisorFunciones&>(visor).DevImagen();
+    }
+    // How many pixels of a colour there are in a part of the image, as shares of its sides.
+    static int Cuenta(const QImage& imagen, QRgb color, double x0 = 0, double x1 = 1, double y0 = 0,
+                      double y1 = 1) {
+        int cuenta = 0;
+        for (int y = static_cast<int>(y0 * imagen.height()); y < y1 * imagen.height(); ++y)
+            for (int x = static_cast<int>(x0 * imagen.width()); x < x1 * imagen.width(); ++x)
+                cuenta += (imagen.pixel(x, y) & 0xFFFFFF) == (color & 0xFFFFFF) ? 1 : 0;
+        return cuenta;
+    }
+    // The heights of a colour's pixels in a column, from the top.
+    static std::vector<int> Alturas(const QImage& imagen, QRgb color, int x) {
+        std::vector<int> alturas;
+        for (int y = 0; y < imagen.height(); ++y)
+            if ((imagen.pixel(x, y) & 0xFFFFFF) == (color & 0xFFFFFF))
+                alturas.push_back(y);
+        return alturas;
+    }
+    void PonX(int décimas) { Busca<QScrollBar>("hsx").setValue(décimas); }
+
+    QWidget& visor = Busca<QWidget>("VisorFunciones");
+};
+
+TEST_F(Visor, CadaFunciónTieneSuColor) {
+    const QRgb colores[] = {Negro, Magenta, Rojo, Azul};
+    for (int i = 0; i < 4; ++i)
+        Define(i, std::to_string(2 * i + 1).c_str());
+    const QImage imagen = DevImagen();
+    for (int i = 0; i < 4; ++i) {
+        // the height of Y=2i+1 in the scale of 400 rows
+        const int esperada = static_cast<int>((10 - (2 * i + 1)) / 20.0 * 400);
+        const std::vector<int> alturas = Alturas(imagen, colores[i], 90);
+        ASSERT_EQ(alturas.size(), 1U) << i;
+        EXPECT_NEAR(alturas[0], esperada, 1) << i;
+    }
+}
+
+TEST_F(Visor, LasÚltimasFuncionesSeDibujanEncima) {
+    for (int i = 0; i < 3; ++i)
+        Define(i, "X/2+1");
+    QImage imagen = DevImagen();
+    EXPECT_EQ(Cuenta(imagen, Negro, 0, 0.45), 0);
+    EXPECT_EQ(Cuenta(imagen, Magenta, 0, 0.45), 0);
+    EXPECT_GT(Cuenta(imagen, Rojo, 0, 0.45), 200);
+    Busca<QCheckBox>("chkfx_2").click();
+    imagen = DevImagen();
+    EXPECT_EQ(Cuenta(imagen, Rojo), 0);
+    EXPECT_GT(Cuenta(imagen, Magenta, 0, 0.45), 200);
+}
+
+TEST_F(Visor, LaRaízNoTieneNadaALaIzquierda) {
+    Define(3, "SQR(X)");
+    PonX(-50);
+    const QImage imagen = DevImagen();
+    EXPECT_EQ(Cuenta(imagen, Azul, 0, 0.495), 0);
+    EXPECT_GT(Cuenta(imagen, Azul, 0.505, 1), 250);
+}
+
+TEST_F(Visor, LaParábolaSaleDelMarcoPorArriba) {
+    Define(3, "X^2");
+    PonX(90);
+    const QImage imagen = DevImagen();
+    // Outside of |X| = SQR(10) all is above the frame; the last line into it ends at its edge.
+    EXPECT_EQ(Cuenta(imagen, Azul, 0, 0.33), 0);
+    EXPECT_EQ(Cuenta(imagen, Azul, 0.67, 1), 0);
+    EXPECT_GT(Cuenta(imagen, Azul, 0.33, 0.36, 0, 0.01), 0);
+    EXPECT_GT(Cuenta(imagen, Azul, 0.64, 0.67, 0, 0.01), 0);
+}
+
+TEST_F(Visor, UnHuecoSeUneConUnaRecta) {
+    Define(3, "SQR(X^2-9)");
+    PonX(90);
+    // between X=-3 and X=3, where there is no value, a line runs along Y=0 just above the axis
+    // or over it
+    Busca<QCheckBox>("chkfx_3").click();
+    const QImage sin = DevImagen();
+    Busca<QCheckBox>("chkfx_3").click();
+    const QImage con = DevImagen();
+    int columnas = 0;
+    for (int x = 240; x < 360; ++x)
+        for (int y = 150; y < 201; ++y)
+            if (sin.pixel(x, y) != con.pixel(x, y)) {
+                ++columnas;
+                break;
+            }
+    EXPECT_GT(columnas, 100);
+}
+
+TEST_F(Visor, PorPuntosHayUnPíxelPorMuestra) {
+    Define(3, "9");
+    PonX(90);
+    Pulsa("NúmeroPuntos_0");
+    Pulsa("OrdenMenúPuntos");
+    EXPECT_NEAR(Cuenta(DevImagen(), Azul, 0, 0.94), 142, 2); // 151 over the whole width
+    Pulsa("OrdenMenúLíneas");
+    EXPECT_NEAR(Cuenta(DevImagen(), Azul, 0, 0.94), 565, 2);
+}
+
+TEST_F(Visor, ElMarcadorSeMueveConElPuntoX) {
+    const QImage antes = DevImagen();
+    PonX(-50);
+    const QImage después = DevImagen();
+    EXPECT_NE(antes.pixel(150, 20), después.pixel(150, 20));
+    EXPECT_NE(antes.pixel(300, 20), después.pixel(300, 20));
+    EXPECT_EQ(antes.pixel(450, 20), después.pixel(450, 20));
+}
+
+TEST_F(Visor, HayUnPuntoSobreCadaFunción) {
+    Define(3, "5");
+    PonX(-50);
+    // a dot of radius 4 at (150, 100)
+    EXPECT_GT(Cuenta(DevImagen(), Azul, 145 / 601.0, 156 / 601.0), 30);
+}
+
+TEST_F(Visor, LosEjesPasanPorElOrigenYDesaparecenFueraDeVista) {
+    PonX(90);
+    const QRgb eje = DevImagen().pixel(300, 30);
+    EXPECT_EQ(DevImagen().pixel(30, 200), eje);
+    Busca<QScrollBar>("hsEjeX").setValue(-5); // the window moves to the right, the axis to the left
+    EXPECT_EQ(DevImagen().pixel(150, 30), eje);
+    Busca<QScrollBar>("vsEjeY").setValue(-20);
+    EXPECT_NE(DevImagen().pixel(30, 200), eje);
+}
+
+TEST_F(Visor, ElClicFijaElPuntoXYLasFlechasLoMueven) {
+    QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 50));
+    EXPECT_NEAR(DevTexto("txtPuntoX").toDouble(), 5, 0.02);
+    EXPECT_EQ(Busca<QScrollBar>("hsx").value(), 50);
+    visor.setFocus();
+    QTest::keyClick(&visor, Qt::Key_Right);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("5.1"));
+    QTest::keyClick(&visor, Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("4.1"));
+}
+
+TEST_F(Visor, ArrastrarDesplazaYNoMueveElPuntoX) {
+    QTest::mousePress(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(300, 200));
+    QMouseEvent movido(QEvent::MouseMove, QPointF(360, 240), visor.mapToGlobal(QPointF(360, 240)),
+                       Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&visor, &movido);
+    QTest::mouseRelease(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(360, 240));
+    const auto extremos = DevExtremos();
+    EXPECT_NEAR(std::stod(extremos[0]), 8, 0.05);
+    EXPECT_NEAR(std::stod(extremos[2]), 12, 0.05);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
+}
+
+TEST_F(Visor, LaRuedaAmplíaAlrededorDelPuntero) {
+    const auto gira = [&](int ángulo) {
+        const QPointF lugar(450, 100);
+        QWheelEvent suceso(lugar, visor.mapToGlobal(lugar), {}, QPoint(0, ángulo), Qt::NoButton,
+                           Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&visor, &suceso);
+    };
+    gira(60);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
+    gira(60); // half a step more
+    const auto extremos = DevExtremos();
+    EXPECT_NEAR(std::stod(extremos[0]), 7.5, 0.03);
+    EXPECT_NEAR(std::stod(extremos[1]), -2.5, 0.03);
+    EXPECT_NEAR(std::stod(extremos[2]), 7.5, 0.03);
+    gira(-120);
+    EXPECT_NEAR(std::stod(DevExtremos()[0]), 10, 0.001);
+}
+
+TEST_F(Visor, LasCoordenadasNuncaQuedanAtrasadas) {
+    auto& coordenadas = Busca<QLabel>("coordenadas");
+    EXPECT_EQ(coordenadas.text(), QString());
+    QTest::mouseMove(&visor, QPoint(450, 100));
+    QMouseEvent movido(QEvent::MouseMove, QPointF(450, 100), visor.mapToGlobal(QPointF(450, 100)),
+                       Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&visor, &movido);
+    EXPECT_EQ(coordenadas.text(), QStringLiteral("X=5  Y=5"));
+    Pulsa("ZoomEjesXY_0");
+    EXPECT_EQ(coordenadas.text(), QStringLiteral("X=10  Y=10"));
+    QEvent sale(QEvent::Leave);
+    QApplication::sendEvent(&visor, &sale);
+    EXPECT_EQ(coordenadas.text(), QString());
+}
+
+TEST_F(Visor, LaImagenSeCopiaAlPortapapeles) {
+    Define(3, "X");
+    Pulsa("CopiarImagen");
+    const QImage copia = QApplication::clipboard()->image();
+    EXPECT_EQ(copia.size(), visor.size());
+    EXPECT_GT(Cuenta(copia, Azul), 300);
+}
+
+TEST_F(Visor, LaDescripciónDiceLoQueSeVe) {
+    Define(0, "X^2");
+    Define(1, "SQR(X)");
+    PonX(-20);
+    EXPECT_EQ(visor.accessibleDescription(),
+              QStringLiteral("X de -10 a 10 · Y de -10 a 10. Punto X=-2. f0(X)=X^2, en X vale 4. "
+                             "f1(X)=SQR(X), sin valor en X"));
+}
+
+// Twice the pixels, not twice the size of each: a line stays one logical pixel wide.
+TEST(Dibujo, EsNítidoConEscala2) {
+    EscenaGráfica escena;
+    for (int i = 0; i <= 100; ++i)
+        escena.puntos[3].push_back({static_cast<float>(i) / 5 - 10, 5});
+    for (const int escala : {1, 2, 3}) {
+        QImage imagen(600 * escala, 400 * escala, QImage::Format_RGB32);
+        QPainter pintor(&imagen);
+        DibujaGráfica(pintor, {QRectF(imagen.rect()), static_cast<qreal>(escala)}, escena);
+        pintor.end();
+        int filas = 0;
+        for (int y = 0; y < imagen.height(); ++y)
+            filas += (imagen.pixel(90 * escala, y) & 0xFFFFFF) == (Azul & 0xFFFFFF) ? 1 : 0;
+        EXPECT_EQ(filas, escala);
+    }
+}
+
+TEST(Dibujo, UnÍndiceDesconocidoEsNegro) {
+    for (const int índice : {-1, 0, 4, 100})
+        EXPECT_EQ(DevColor(índice), QColor(0, 0, 0));
+    EXPECT_EQ(DevColor(1), QColor(255, 0, 255));
+    EXPECT_EQ(DevColor(2), QColor(255, 0, 0));
+    EXPECT_EQ(DevColor(3), QColor(0, 0, 255));
+}
+
+} // namespace
+} // namespace quiralto
