@@ -90,6 +90,7 @@ void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden
         EjecutaConTrampa(contexto, [&] {
             hoja.líneas = LeeTextBox(hoja.texto);
             encontrada->trabajador(contexto, hoja);
+            contexto.Vigila(); // every command can be cancelled up to its end
         });
     } catch (const OrdenCancelada&) {
         hoja.texto.resize(longitudAnterior); // commands only append
