@@ -111,8 +111,7 @@ class ReglasSimplificado {
 public:
     using Valor = Sumando;
 
-    explicit ReglasSimplificado(Contexto& contexto)
-        : tabla_(contexto, ClaseDesarrollo::Simplificado) {}
+    explicit ReglasSimplificado(TablaSímbolos& tabla) : tabla_(tabla) {}
 
     Valor DeX() { return SumaSímbolo(tabla_.DevVariable('X', "X")); }
     static Valor DeNúmero(double valor) { return SumaNúmero(valor); }
@@ -150,7 +149,7 @@ public:
     }
 
 private:
-    TablaSímbolos tabla_;
+    TablaSímbolos& tabla_;
 };
 
 // The rules of the complete expansion: every value is one fraction.
@@ -162,7 +161,7 @@ public:
         std::vector<Términos> factoresDenominador = {};
     };
 
-    explicit ReglasCompleto(Contexto& contexto) : tabla_(contexto, ClaseDesarrollo::Completo) {}
+    explicit ReglasCompleto(TablaSímbolos& tabla) : tabla_(tabla) {}
 
     Valor DeX() { return {.numerador = SumaSímbolo(tabla_.DevVariable('X', "X"))}; }
     static Valor DeNúmero(double valor) { return {.numerador = SumaNúmero(valor)}; }
@@ -365,14 +364,14 @@ private:
         return {{1, std::move(inverso)}};
     }
 
-    TablaSímbolos tabla_;
+    TablaSímbolos& tabla_;
 };
 
 // Runs the instructions over the values of the rules. Every register but X is an operand of at
 // most one instruction, so values are moved out of it.
-template <typename Reglas> std::string Desarrolla(Contexto& contexto, const Programa& programa) {
+template <typename Reglas>
+typename Reglas::Valor Ejecuta(Reglas& reglas, Contexto& contexto, const Programa& programa) {
     using Valor = typename Reglas::Valor;
-    Reglas reglas(contexto);
     std::vector<std::optional<Valor>> registros(programa.registros.size());
     const auto toma = [&](std::int16_t registro) -> Valor {
         const auto r = static_cast<std::size_t>(registro);
@@ -391,7 +390,7 @@ template <typename Reglas> std::string Desarrolla(Contexto& contexto, const Prog
         registros[static_cast<std::size_t>(instrucción.resultado)] =
             reglas.Opera(instrucción.código, std::move(izquierdo), toma(instrucción.derecho));
     }
-    return reglas.Escribe(std::move(*registros[programa.Resultado()]));
+    return std::move(*registros[programa.Resultado()]);
 }
 
 // A text's terms, each literal part a symbol of its own.
@@ -414,11 +413,20 @@ Términos LeeSuma(TablaSímbolos& tabla, std::string_view texto) {
 } // namespace
 
 std::string DesarrollaCompleto(Contexto& contexto, const Programa& programa) {
-    return Desarrolla<ReglasCompleto>(contexto, programa);
+    TablaSímbolos tabla(contexto, ClaseDesarrollo::Completo);
+    ReglasCompleto reglas(tabla);
+    return reglas.Escribe(Ejecuta(reglas, contexto, programa));
 }
 
 std::string DesarrollaSimplificado(Contexto& contexto, const Programa& programa) {
-    return Desarrolla<ReglasSimplificado>(contexto, programa);
+    TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
+    ReglasSimplificado reglas(tabla);
+    return reglas.Escribe(Ejecuta(reglas, contexto, programa));
+}
+
+Términos DesarrollaEnTérminos(TablaSímbolos& tabla, const Programa& programa) {
+    ReglasSimplificado reglas(tabla);
+    return Ejecuta(reglas, tabla.contexto, programa).Cerrada();
 }
 
 std::string SumaDesarrollo(Contexto& contexto, std::string_view a, std::string_view b) {

@@ -21,6 +21,7 @@
 
 #include "engine/contexto.h"
 #include "engine/programa.h"
+#include "engine/simbolos.h"
 
 #include <string>
 #include <string_view>
@@ -33,6 +34,9 @@ namespace quiralto {
 // terms on the way.
 std::string DesarrollaCompleto(Contexto& contexto, const Programa& programa);
 std::string DesarrollaSimplificado(Contexto& contexto, const Programa& programa);
+
+// The simplified expansion as a value of the table (of that class), its numbers not yet rounded.
+Términos DesarrollaEnTérminos(TablaSímbolos& tabla, const Programa& programa);
 
 // The sum of two expanded texts, like terms collected.
 std::string SumaDesarrollo(Contexto& contexto, std::string_view a, std::string_view b);

@@ -268,7 +268,7 @@ std::uint32_t SumaAbierta::BuscaPorValores(const ValoresDePrueba& valores) const
 std::uint32_t SumaAbierta::Busca(const Literal& literal, std::uint64_t hash) {
     const std::uint32_t hallado = porLetra_.Busca(
         hash, [&](std::uint32_t i) { return nodos_[i].término.literal == literal; });
-    if (hallado != ÍndiceHash::Ninguno || literal.empty())
+    if (hallado != ÍndiceHash::Ninguno || literal.empty() || tabla_.soloPorLetra)
         return hallado;
     if (!puntos_) {
         if (nodos_.empty() || (soloDeX_ && EsMonomioDeX(tabla_, literal)))

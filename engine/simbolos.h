@@ -93,6 +93,9 @@ public:
         return claves_[a] != claves_[b] ? claves_[a] < claves_[b] : PrecedePorTexto(a, b);
     }
 
+    // Like terms only to the letter: for unknowns that no value stands for.
+    bool soloPorLetra = false;
+
     // How deep the quotients and groups at work stand inside each other.
     int profundidad = 0;
 
