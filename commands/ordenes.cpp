@@ -26,7 +26,7 @@ constexpr std::string_view FuncionesRacionales = "f(x),g(x),...";
 
 constexpr std::array Órdenes = {
     Orden{"Resolver sistema lineal", Ecuaciones, "Resolver sistema lineal", "ecuaciones",
-          "2*X(1)+X(2)=3\nX(1)-X(2)=-3/2", ResolverSistemaLineal1},
+          "2*X(1)+X(2)=3\r\nX(1)-X(2)=-3/2", ResolverSistemaLineal1},
     Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", "enteros", "12,18",
           ResolverMcdNúmeros},
     Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", "enteros",
