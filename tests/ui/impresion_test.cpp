@@ -97,6 +97,7 @@ int Cuenta(const QImage& imagen, int rojo, int verde, int azul) {
 
 TEST_F(Impresión, LaGráficaSeImprimeEnUnaPáginaConSusFuncionesEnColor) {
     Busca<QWidget>("VisorFunciones").setFixedSize(400, 600);
+    QApplication::processEvents();
     Define(1, "X^2-4");
     Define(3, "SIN(X)+5");
     Pulsa("ImprimirGráfica");
