@@ -251,14 +251,18 @@ double Lienzo::DevT(double y) const {
     return MediaEscala - (y - área.top() - grosor / 2) / (área.height() - grosor) * 2 * MediaEscala;
 }
 
+void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+        DibujaCurva(pintor, lienzo, escena, i);
+}
+
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
     pintor.save();
     pintor.setClipRect(lienzo.área);
     pintor.fillRect(lienzo.área, Papel);
     Ejes ejes(pintor, lienzo, escena);
     ejes.DibujaRejilla();
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        DibujaCurva(pintor, lienzo, escena, i);
+    DibujaCurvas(pintor, lienzo, escena);
     ejes.Dibuja();
     pintor.restore();
 }
