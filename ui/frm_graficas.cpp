@@ -50,7 +50,9 @@ frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impr
     CreaMenús();
     Comienza();
     txtSalida_->setFocus();
-    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    // The window manager's frame is to fit too.
+    const QSize marco(16, 48);
+    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize() - marco));
     const int columna = std::min(400, width() * 36 / 100);
     división->setSizes({width() - columna, columna});
 }
