@@ -14,9 +14,9 @@ namespace quiralto {
 CajaHoja::CajaHoja(QWidget* padre, Pitido pitido)
     : QPlainTextEdit(padre), pitido_(std::move(pitido)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    // Looking for words to break at takes the square of the length of a line without blanks: half a
-    // minute for a megabyte.
-    setWordWrapMode(QTextOption::WrapAnywhere);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int lugar, int, int añadidos) { EligeCorte(lugar, añadidos); });
     setTabChangesFocus(true);
 }
 
@@ -58,6 +58,21 @@ void CajaHoja::SeleccionaLínea(std::string_view línea) {
         setTextCursor(cursor);
     }
     setFocus(Qt::OtherFocusReason);
+}
+
+// Looking for words to break at takes the square of the length of a line without blanks: half a
+// minute for a megabyte. From the first very long line on, lines are broken anywhere. This is told
+// before the new text is laid out.
+void CajaHoja::EligeCorte(int lugar, int añadidos) {
+    constexpr int LíneaLarga = 10'000;
+    if (wordWrapMode() == QTextOption::WrapAnywhere)
+        return;
+    for (QTextBlock bloque = document()->findBlock(lugar);
+         bloque.isValid() && bloque.position() <= lugar + añadidos; bloque = bloque.next())
+        if (bloque.length() > LíneaLarga) {
+            setWordWrapMode(QTextOption::WrapAnywhere);
+            return;
+        }
 }
 
 void CajaHoja::keyPressEvent(QKeyEvent* suceso) {

@@ -32,6 +32,7 @@ protected:
 
 private:
     QString DevTextoInterno() const;
+    void EligeCorte(int lugar, int añadidos);
 
     Pitido pitido_;
 };

@@ -14,7 +14,8 @@
 namespace quiralto {
 namespace {
 
-constexpr int DécimasPorUnidad = 10; // of the bar of the point X
+constexpr int DécimasPorUnidad = 10;     // of the bar of the point X
+constexpr double PartesDelRango = 10000; // to which the window is written in words
 
 QString DevNúmero(double valor) {
     return DevQString(TextoNúmero(valor));
@@ -204,9 +205,14 @@ void ControlGráfica::ActualizaZoom() {
     const double s = DevXlógico(v, escena_.puntoX);
     PonBarra(partes_.hsx, static_cast<int>(std::lround(std::clamp(s, -MediaEscala, MediaEscala) *
                                                        DécimasPorUnidad)));
-    partes_.zoom.setText(
-        QStringLiteral("X de %1 a %2 · Y de %3 a %4")
-            .arg(DevNúmero(v.XMín), DevNúmero(v.XMáx), DevNúmero(v.YMín), DevNúmero(v.YMáx)));
+    const double porX = (v.XMáx - v.XMín) / PartesDelRango;
+    const double porY = (v.YMáx - v.YMín) / PartesDelRango;
+    const auto texto = [](double valor, double separación) {
+        return DevQString(TextoCoordenada(valor, separación));
+    };
+    partes_.zoom.setText(QStringLiteral("X de %1 a %2 · Y de %3 a %4")
+                             .arg(texto(v.XMín, porX), texto(v.XMáx, porX), texto(v.YMín, porY),
+                                  texto(v.YMáx, porY)));
     Describe();
 }
 

@@ -178,8 +178,11 @@ private:
             // The axis itself would run through a label below it.
             const bool enElEje = std::fabs(x - ejeY_) < 1 + g;
             const qreal izquierda = enElEje ? x - ancho - 4 * g : x - ancho / 2;
-            if (izquierda >= área.left() && izquierda + ancho <= área.right())
-                DibujaRótulo(pintor_, lienzo_, {izquierda, base}, texto);
+            if (izquierda < área.left() || izquierda + ancho > área.right())
+                continue;
+            DibujaRótulo(pintor_, lienzo_, {izquierda, base}, texto);
+            ocupados_.emplace_back(izquierda - 3 * g, base - medidas_.ascent(), ancho + 6 * g,
+                                   alto);
         }
     }
 
@@ -196,12 +199,14 @@ private:
                 continue;
             const QString texto = DevQString(marca.texto);
             const qreal ancho = medidas_.horizontalAdvance(texto);
-            const qreal izquierda = eje - 6 * g - ancho;
-            const qreal base = y + medidas_.ascent() / 2 - g;
-            if (base - medidas_.ascent() >= área.top() &&
-                base + medidas_.descent() <= área.bottom())
-                DibujaRótulo(pintor_, lienzo_,
-                             {izquierda >= área.left() ? izquierda : eje + 7 * g, base}, texto);
+            const qreal junto = eje - 6 * g - ancho;
+            const QPointF lugar(junto >= área.left() ? junto : eje + 7 * g,
+                                y + medidas_.ascent() / 2 - g);
+            const QRectF marco(lugar.x(), lugar.y() - medidas_.ascent(), ancho, medidas_.height());
+            if (área.contains(marco) && std::ranges::none_of(ocupados_, [&](const QRectF& o) {
+                    return o.intersects(marco);
+                }))
+                DibujaRótulo(pintor_, lienzo_, lugar, texto);
         }
     }
 
@@ -211,8 +216,9 @@ private:
     QFontMetricsF medidas_;
     std::vector<Marca> enX_;
     std::vector<Marca> enY_;
-    qreal ejeX_; // the height of the horizontal axis
-    qreal ejeY_; // the place of the vertical one
+    std::vector<QRectF> ocupados_; // by the labels of the horizontal axis
+    qreal ejeX_;                   // the height of the horizontal axis
+    qreal ejeY_;                   // the place of the vertical one
 };
 
 } // namespace
@@ -245,14 +251,18 @@ double Lienzo::DevT(double y) const {
     return MediaEscala - (y - área.top() - grosor / 2) / (área.height() - grosor) * 2 * MediaEscala;
 }
 
+void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+        DibujaCurva(pintor, lienzo, escena, i);
+}
+
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
     pintor.save();
     pintor.setClipRect(lienzo.área);
     pintor.fillRect(lienzo.área, Papel);
     Ejes ejes(pintor, lienzo, escena);
     ejes.DibujaRejilla();
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        DibujaCurva(pintor, lienzo, escena, i);
+    DibujaCurvas(pintor, lienzo, escena);
     ejes.Dibuja();
     pintor.restore();
 }

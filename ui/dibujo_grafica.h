@@ -42,6 +42,9 @@ struct Lienzo {
 // functions, axes, marks and labels.
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena);
 
+// The curves alone, in the order of the functions.
+void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena);
+
 // The marker line of the point X, with a dot on each function.
 void DibujaPuntoX(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena);
 

@@ -17,6 +17,8 @@
 #include <QScreen>
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace quiralto {
 
 frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impresora& impresora)
@@ -36,8 +38,8 @@ frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impr
     división->setChildrenCollapsible(false);
     división->addWidget(CreaZonaGráfica());
     división->addWidget(CreaColumna());
-    división->setStretchFactor(0, 3);
-    división->setStretchFactor(1, 1);
+    división->setStretchFactor(0, 1);
+    división->setStretchFactor(1, 0);
     setCentralWidget(división);
     control_ = std::make_unique<ControlGráfica>(
         contexto, vista_,
@@ -48,8 +50,11 @@ frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impr
     CreaMenús();
     Comienza();
     txtSalida_->setFocus();
-    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
-    división->setSizes({width() - 400, 400});
+    // The window manager's frame is to fit too.
+    const QSize marco(16, 48);
+    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize() - marco));
+    const int columna = std::min(400, width() * 36 / 100);
+    división->setSizes({width() - columna, columna});
 }
 
 // The controls go before what they call.
@@ -104,6 +109,7 @@ QWidget* frmGráficas::CreaColumna() {
     auto* etiqueta = new QLabel(QStringLiteral("Ho&ja"), this);
     etiqueta->setBuddy(txtSalida_);
     auto* columna = new QWidget(this);
+    columna->setMinimumWidth(240);
     auto* caja = new QVBoxLayout(columna);
     caja->setContentsMargins(4, 8, 8, 8);
     caja->setSpacing(6);
@@ -118,6 +124,7 @@ void frmGráficas::CreaBarraEstado() {
     coordenadas_->setObjectName(QStringLiteral("coordenadas"));
     const QFont fija = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     coordenadas_->setFont(fija);
+    coordenadas_->setIndent(12);
     // Room for the coordinates of any usual window, so that nothing beside them moves.
     coordenadas_->setMinimumWidth(
         QFontMetrics(fija).horizontalAdvance(QStringLiteral("X=-12.3456  Y=-12.3456")));

@@ -23,7 +23,7 @@ frmPuntosExtremos::frmPuntosExtremos(Contexto& contexto, std::function<bool(cons
     for (int i = 0; i < 4; ++i) {
         auto* caja = new CajaFórmula(this);
         caja->setObjectName(QStringLiteral("txtPuntosExtremos_%1").arg(i));
-        caja->setMinimumWidth(220);
+        caja->setMinimumWidth(340); // and the title fits
         auto* etiqueta = new QLabel(títulos.at(static_cast<std::size_t>(i)), this);
         etiqueta->setBuddy(caja);
         rejilla->addWidget(etiqueta, i, 0);

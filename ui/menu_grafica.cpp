@@ -81,7 +81,7 @@ void CreaZooms(QMenu& menú, ControlGráfica& control, const std::function<void(
         .setShortcut(QKeySequence(Qt::CTRL | Qt::Key_0));
     Añade(menú, QStringLiteral("&Fijar puntos extremos manualmente"),
           QStringLiteral("FijarPuntosExtremos"), fijarExtremos)
-        .setShortcut(QKeySequence(Qt::CTRL | Qt::Key_E));
+        .setShortcut(QKeySequence(Qt::CTRL | Qt::Key_F));
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
 
 #include <cmath>
 
@@ -61,10 +60,9 @@ void VisorFunciones::paintEvent(QPaintEvent*) {
     DibujaPuntoX(pintor, lienzo, escena_);
     pintor.restore();
     if (hasFocus()) {
-        QStyleOptionFocusRect opción;
-        opción.initFrom(this);
-        opción.backgroundColor = Qt::white;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opción, &pintor, this);
+        // not the style's, which may tint the paper
+        pintor.setPen(palette().color(QPalette::Highlight));
+        pintor.drawRect(rect().adjusted(0, 0, -1, -1));
     }
 }
 

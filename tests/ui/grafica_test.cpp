@@ -338,7 +338,7 @@ TEST_F(DiálogoDeExtremos, AceptarFijaLaVentanaConExpresiones) {
     PulsaBotón("Command1");
     EXPECT_FALSE(marco.isVisible());
     EXPECT_EQ(DevExtremos(), (Extremos{"4", "-1", ".33333333", "0"}));
-    EXPECT_EQ(DevZoom(), QStringLiteral("X de -1 a 4 · Y de 0 a .33333333"));
+    EXPECT_EQ(DevZoom(), QStringLiteral("X de -1 a 4 · Y de 0 a .33333"));
     EXPECT_TRUE(TomaMensajes().empty());
 }
 

@@ -76,7 +76,8 @@ protected:
     std::string DevTexto() { return ConLf(dynamic_cast<CajaHoja&>(txtSalida).DevTexto()); }
 
     MensajesGrabados grabados;
-    VigilanteVentana vigilante;
+    // No dialog however slow the machine is; its own tests make theirs.
+    VigilanteVentana vigilante{std::chrono::hours(1)};
     Contexto contexto{grabados, vigilante};
     ImpresoraDePrueba impresora;
     frmGráficas formulario{contexto, vigilante, impresora};

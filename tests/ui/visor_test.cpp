@@ -210,6 +210,14 @@ TEST_F(Visor, LaImagenSeCopiaAlPortapapeles) {
     EXPECT_GT(Cuenta(copia, Azul), 300);
 }
 
+TEST_F(Visor, ElPapelSigueBlancoConElFoco) {
+    visor.setFocus();
+    QApplication::processEvents();
+    const QImage imagen = visor.grab().toImage();
+    EXPECT_EQ(imagen.pixelColor(20, 20), QColor(Qt::white));
+    EXPECT_NE(imagen.pixelColor(0, 0), QColor(Qt::white));
+}
+
 TEST_F(Visor, LaDescripciónDiceLoQueSeVe) {
     Define(0, "X^2");
     Define(1, "SQR(X)");

@@ -1,0 +1,138 @@
+// A redraw of four functions at 4800 points on 1200x800 logical pixels, in its parts, beside a bare
+// QPainter that draws the same four polylines. The argument is the device pixel ratio.
+
+#include "ui/dibujo_grafica.h"
+
+#include <QGuiApplication>
+#include <QImage>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+namespace quiralto {
+namespace {
+
+class SinMensajes : public Mensajes {
+public:
+    void Muestra(Icono, std::string_view) override {}
+};
+
+class SinVigilante : public Vigilante {
+public:
+    bool Continúa() override { return true; }
+};
+
+class Banco {
+public:
+    explicit Banco(int escala)
+        : escala_(escala), imagen_(1200 * escala, 800 * escala, QImage::Format_RGB32) {
+        const char* const funciones[] = {"X^2-4", "5*SIN(3*X)", "X^3/20-X", "4*COS(9*X)+X/3"};
+        vista_.cantidadPuntos = 4800;
+        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
+            std::string texto = funciones[i];
+            vista_.DefineFunción(i, texto);
+            vista_.Activa(i, true);
+        }
+        Muestrea();
+    }
+
+    void Muestrea() {
+        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+            escena_.puntos.at(static_cast<std::size_t>(i)) = vista_.CargaPuntos(i);
+    }
+
+    void PintaCurvas() {
+        QPainter pintor(&imagen_);
+        pintor.fillRect(imagen_.rect(), Qt::white);
+        DibujaCurvas(pintor, DevLienzo(), escena_);
+    }
+
+    void PintaTodo() {
+        QPainter pintor(&imagen_);
+        QFont fuente = pintor.font();
+        fuente.setPixelSize(11 * escala_);
+        pintor.setFont(fuente);
+        DibujaGráfica(pintor, DevLienzo(), escena_);
+        DibujaPuntoX(pintor, DevLienzo(), escena_);
+    }
+
+    // The polylines in device pixels, ready made.
+    std::vector<QPolygonF> DevPolilíneas() const {
+        std::vector<QPolygonF> polilíneas;
+        for (const std::vector<Punto>& puntos : escena_.puntos) {
+            QPolygonF& polilínea = polilíneas.emplace_back();
+            for (const Punto& punto : puntos)
+                polilínea += DevLienzo().DevLugar(punto.x, punto.y);
+        }
+        return polilíneas;
+    }
+
+    void PintaDesnudo(const std::vector<QPolygonF>& polilíneas) {
+        QPainter pintor(&imagen_);
+        pintor.fillRect(imagen_.rect(), Qt::white);
+        for (std::size_t i = 0; i < polilíneas.size(); ++i) {
+            pintor.setPen(QPen(DevColor(static_cast<int>(i)), 1));
+            pintor.drawPolyline(polilíneas[i]);
+        }
+    }
+
+private:
+    Lienzo DevLienzo() const { return {QRectF(imagen_.rect()), static_cast<qreal>(escala_)}; }
+
+    SinMensajes mensajes_;
+    SinVigilante vigilante_;
+    Contexto contexto_{mensajes_, vigilante_};
+    VentanaGráfica vista_{contexto_};
+    EscenaGráfica escena_;
+    int escala_;
+    QImage imagen_;
+};
+
+void Muestreo(benchmark::State& estado) {
+    Banco banco(1);
+    for (auto _ : estado)
+        banco.Muestrea();
+}
+BENCHMARK(Muestreo)->Unit(benchmark::kMillisecond);
+
+void CurvasDesnudas(benchmark::State& estado) {
+    Banco banco(static_cast<int>(estado.range(0)));
+    const std::vector<QPolygonF> polilíneas = banco.DevPolilíneas();
+    for (auto _ : estado)
+        banco.PintaDesnudo(polilíneas);
+}
+BENCHMARK(CurvasDesnudas)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+void Curvas(benchmark::State& estado) {
+    Banco banco(static_cast<int>(estado.range(0)));
+    for (auto _ : estado)
+        banco.PintaCurvas();
+}
+BENCHMARK(Curvas)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+void CurvasRejillaYRótulos(benchmark::State& estado) {
+    Banco banco(static_cast<int>(estado.range(0)));
+    for (auto _ : estado)
+        banco.PintaTodo();
+}
+BENCHMARK(CurvasRejillaYRótulos)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+void MuestreoYPintura(benchmark::State& estado) {
+    Banco banco(static_cast<int>(estado.range(0)));
+    for (auto _ : estado) {
+        banco.Muestrea();
+        banco.PintaTodo();
+    }
+}
+BENCHMARK(MuestreoYPintura)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace quiralto
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication aplicación(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
