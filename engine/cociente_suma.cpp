@@ -336,11 +336,11 @@ Términos DevTérminoCociente(TablaSímbolos& tabla, Términos numerador, Térmi
     double coeficiente = 1;
     if (numerador.size() == 1)
         coeficiente = std::exchange(numerador[0].coeficiente, 1);
-    const IdSímbolo símbolo =
-        tabla.DevBase({.clase = ClaseBase::Cociente,
-                       .texto = EscribeFracción(tabla, numerador, denominador),
-                       .numerador = std::move(numerador),
-                       .denominador = std::move(denominador)});
+    std::string texto = EscribeFracción(tabla, numerador, denominador);
+    const IdSímbolo símbolo = tabla.DevBase({.clase = ClaseBase::Cociente,
+                                             .texto = std::move(texto),
+                                             .numerador = std::move(numerador),
+                                             .denominador = std::move(denominador)});
     return {{coeficiente, {{símbolo, 1}}}};
 }
 

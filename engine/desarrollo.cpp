@@ -94,7 +94,7 @@ Términos Eleva(TablaSímbolos& tabla, const Términos& base, const Términos& e
 }
 
 // The symbol of a call; SLN of a whole number is a variable, in its place.
-IdSímbolo DevLlamada(TablaSímbolos& tabla, Operación código, std::string argumento) {
+IdSímbolo DevLlamada(TablaSímbolos& tabla, Operación código, const std::string& argumento) {
     const auto función = std::ranges::find(TablaOperaciones, código, &DescripciónOperación::código);
     std::string texto(función->nombre);
     ((texto += '(') += argumento) += ')';

@@ -128,7 +128,7 @@ std::uint64_t DevHash(const Literal& literal) {
     // The exponents differ in their highest bits, the table takes the lowest.
     std::uint64_t hash = 0;
     for (const Factor& factor : literal) {
-        std::uint64_t h = std::bit_cast<std::uint64_t>(factor.exponente);
+        auto h = std::bit_cast<std::uint64_t>(factor.exponente);
         h = (h ^ h >> 32) + std::uint64_t{factor.símbolo} * 0x9E3779B97F4A7C15U;
         h *= 0xD6E8FEB86659FD93U;
         h = (h ^ h >> 32) * 0xD6E8FEB86659FD93U;
