@@ -147,12 +147,15 @@ Términos ElevaProducto(TablaSímbolos& tabla, const Términos& base, double n) 
     // From the highest binary digit of n down: square, and multiply by the base where it is 1.
     double dígito = std::exp2(std::floor(std::log2(n)));
     Términos potencia = base;
-    for (n -= dígito, dígito /= 2; dígito >= 1; dígito /= 2) {
+    n -= dígito;
+    dígito /= 2;
+    while (dígito >= 1) {
         potencia = Multiplica(tabla, potencia, potencia);
         if (n >= dígito) {
             n -= dígito;
             potencia = Multiplica(tabla, potencia, base);
         }
+        dígito /= 2;
     }
     return potencia;
 }

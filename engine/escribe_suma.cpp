@@ -9,12 +9,12 @@
 namespace quiralto {
 namespace {
 
-constexpr double MáximoDenominadorExponente = 1000;
+constexpr int MáximoDenominadorExponente = 1000;
 
 // The least whole number that makes the exponent whole; 0 for none that is small.
 double DevDenominador(double exponente) {
     constexpr double Tolerancia = 1e-11;
-    for (double q = 1; q <= MáximoDenominadorExponente; ++q)
+    for (int q = 1; q <= MáximoDenominadorExponente; ++q)
         if (std::fabs(exponente * q - std::round(exponente * q)) < Tolerancia * q)
             return q;
     return 0;

@@ -6,7 +6,7 @@
 #include "fuzz/entrada.h"
 
 #include <array>
-#include <cstring>
+#include <bit>
 
 using namespace quiralto;
 
@@ -32,7 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lon
         banco.contexto.ErrorCódigo = SinFallo;
         const double valor = EvalúaPrograma(banco.contexto, programa, Equis[i]);
         Exige(banco.contexto.ErrorCódigo == fallos[i], "the same faults", texto);
-        const bool iguales = std::memcmp(&valor, &valores[i], sizeof valor) == 0;
+        const bool iguales =
+            std::bit_cast<std::uint64_t>(valor) == std::bit_cast<std::uint64_t>(valores[i]);
         Exige(fallos[i] != SinFallo || iguales, "the same bits", texto);
     }
     return 0;

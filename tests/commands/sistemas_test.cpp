@@ -141,6 +141,35 @@ TEST(Sistemas, DejanElPrefijoComoEstaba) {
     EXPECT_EQ(hoja.texto, "X(1)=1");
 }
 
+TEST(Sistemas, CanceladosDejanLaHojaComoEstaba) {
+    std::mt19937 azar(31);
+    std::uniform_int_distribution<int> coeficiente(1, 9);
+    Matriz matriz(40, std::vector<double>(41));
+    for (std::vector<double>& fila : matriz)
+        for (double& entrada : fila)
+            entrada = coeficiente(azar);
+    const std::string texto = EscribeEcuaciones(matriz);
+    int cuántas = 0; // how often an undisturbed run asks the watcher
+    {
+        Banco banco;
+        banco.vigilante.continúa = [&] { return ++cuántas > 0; };
+        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        EjecutaInstrucciones(banco.contexto, hoja, Texto);
+        EXPECT_GT(hoja.texto.size(), texto.size());
+    }
+    ASSERT_GT(cuántas, 40); // it asks all along, not at the ends alone
+    for (const int últimas : {0, 1, cuántas / 2, cuántas - 1}) {
+        Banco banco;
+        int quedan = últimas;
+        banco.vigilante.continúa = [&] { return quedan-- > 0; };
+        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        EjecutaInstrucciones(banco.contexto, hoja, Texto);
+        EXPECT_EQ(hoja.texto, texto) << últimas;
+        EXPECT_EQ(banco.contexto.PrefijoVariable, "") << últimas;
+        EXPECT_TRUE(banco.TomaMensajes().empty()) << últimas;
+    }
+}
+
 TEST(Sistemas, SustituyenLasIncógnitas) {
     EXPECT_EQ(Sustituye1("X(3)+x(3)*EXP(2)-X"), "SLN(3)+SLN(3)*EXP(2)-X");
 }

@@ -384,5 +384,48 @@ TEST(Separa, SeparaLaPotencia) {
     }
 }
 
+// The derivative as a command writes it, against the difference quotient of the function.
+TEST(Desarrollo, LaDerivadaDesarrolladaEsLaDeLaFunción) {
+    const char* const funciones[] = {"X^5-3*X^4+2*X^3-X^2+X-7",
+                                     "SIN(X)^2",
+                                     "X*EXP(X)",
+                                     "LOG(X+3)/X",
+                                     "X^X",
+                                     "ARCSIN(X/4)",
+                                     "SEC(X)*COSEC(X)",
+                                     "(X+1)^3*(X-2)^2/(X^2+1)",
+                                     "SQR(X^2+1)",
+                                     "ATN(X)^2-TAN(X/3)",
+                                     "3*-X^2",
+                                     "2^X*X^-3",
+                                     "COS(X*SIN(X))",
+                                     "1/X^3",
+                                     "-X^2+X/-2",
+                                     "EXP(-X^2/2)",
+                                     "SIN(COS(12*X^(X+3)-2))+11*X^-3*SIN(X)-3"};
+    for (const char* const f : funciones) {
+        Banco banco;
+        std::string derivada =
+            DesarrollaSimplificado(banco.contexto, CompilaExpresión(Deriva(banco.contexto, f)));
+        ASSERT_TRUE(Sintaxis(banco.contexto, derivada)) << f << " gives " << derivada;
+        Programa función = CompilaExpresión(f);
+        Programa suya = CompilaExpresión(derivada);
+        for (const double x : {.3, .55, .8, 1.1, 1.3}) {
+            constexpr double H = 1e-5;
+            const auto valor = [&](double en) {
+                return EvalúaPrograma(banco.contexto, función, en);
+            };
+            // Richardson's extrapolation of the central quotient: its error goes with h^4.
+            const double esperada =
+                (8 * (valor(x + H) - valor(x - H)) - (valor(x + 2 * H) - valor(x - 2 * H))) /
+                (12 * H);
+            EXPECT_NEAR(EvalúaPrograma(banco.contexto, suya, x), esperada,
+                        2e-6 * std::max(1.0, std::fabs(esperada)))
+                << f << " at " << x << ": " << derivada;
+            ASSERT_EQ(banco.contexto.ErrorCódigo, SinFallo) << f << " at " << x;
+        }
+    }
+}
+
 } // namespace
 } // namespace quiralto
