@@ -10,7 +10,10 @@ namespace quiralto {
 
 void Retardo(std::chrono::milliseconds tiempo) {
     QEventLoop bucle;
-    QTimer::singleShot(tiempo, &bucle, &QEventLoop::quit);
+    QTimer reloj;
+    reloj.setSingleShot(true);
+    QObject::connect(&reloj, &QTimer::timeout, &bucle, &QEventLoop::quit);
+    reloj.start(tiempo);
     bucle.exec();
 }
 

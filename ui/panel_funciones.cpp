@@ -8,7 +8,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QSignalBlocker>
-#include <QTimer>
 
 namespace quiralto {
 namespace {
@@ -100,7 +99,8 @@ void PanelFunciones::CreaFila(int índice) {
             [this, índice](bool activa) { AlConmutar(índice, activa); });
     fila.txtfx->alSalir = [this, índice] {
         // Not now: the click that takes the focus away comes first.
-        QTimer::singleShot(0, this, [this, índice] { AlSalir(índice); });
+        QMetaObject::invokeMethod(
+            this, [this, índice] { AlSalir(índice); }, Qt::QueuedConnection);
     };
 }
 
