@@ -1,5 +1,6 @@
 // The cost of compiling and deriving long texts: it must grow with the text, not with its square.
 
+#include "bench/apoyo.h"
 #include "engine/compila.h"
 #include "engine/deriva.h"
 #include "engine/sintaxis.h"
@@ -10,13 +11,6 @@
 
 namespace quiralto::bench {
 namespace {
-
-class Silencio : public Mensajes {
-    void Muestra(Icono, std::string_view) override {}
-};
-class SinVigilante : public Vigilante {
-    bool Continúa() override { return true; }
-};
 
 std::string DevSuma(benchmark::IterationCount términos) {
     std::string suma = "X";
@@ -45,24 +39,20 @@ void CompilaAnidada(benchmark::State& estado) {
 }
 
 void CompruebaSuma(benchmark::State& estado) {
-    Silencio mensajes;
-    SinVigilante vigilante;
-    Contexto contexto(mensajes, vigilante);
+    Banco banco;
     const std::string suma = DevSuma(estado.range(0));
     for ([[maybe_unused]] auto vuelta : estado) {
         std::string texto = suma;
-        benchmark::DoNotOptimize(Sintaxis(contexto, texto));
+        benchmark::DoNotOptimize(Sintaxis(banco.contexto, texto));
     }
     estado.SetComplexityN(estado.range(0));
 }
 
 void DerivaSuma(benchmark::State& estado) {
-    Silencio mensajes;
-    SinVigilante vigilante;
-    Contexto contexto(mensajes, vigilante);
+    Banco banco;
     const std::string suma = DevSuma(estado.range(0));
     for ([[maybe_unused]] auto vuelta : estado)
-        benchmark::DoNotOptimize(Deriva(contexto, suma));
+        benchmark::DoNotOptimize(Deriva(banco.contexto, suma));
     estado.SetComplexityN(estado.range(0));
 }
 

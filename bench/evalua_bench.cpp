@@ -1,6 +1,7 @@
 // Nanoseconds a point over 4801 points: the block and the scalar run, the same function as compiled
 // C++, and muParser.
 
+#include "bench/apoyo.h"
 #include "bench/evalua_nativa.h"
 #include "engine/compila.h"
 #include "engine/evalua.h"
@@ -17,22 +18,12 @@ namespace {
 
 constexpr std::size_t CantidadPuntos = 4801;
 
-class Silencio : public Mensajes {
-    void Muestra(Icono, std::string_view) override {}
-};
-class SinVigilante : public Vigilante {
-    bool Continúa() override { return true; }
-};
-
-struct Banco {
-    Silencio mensajes;
-    SinVigilante vigilante;
-    Contexto contexto{mensajes, vigilante};
+struct Curva : Banco {
     std::vector<double> equis = std::vector<double>(CantidadPuntos);
     std::vector<double> valores = std::vector<double>(CantidadPuntos);
     std::vector<std::int16_t> fallos = std::vector<std::int16_t>(CantidadPuntos);
 
-    Banco() {
+    Curva() {
         for (std::size_t i = 0; i < CantidadPuntos; ++i)
             equis[i] = -10 + 20 * static_cast<double>(i) / (CantidadPuntos - 1);
     }
@@ -56,7 +47,7 @@ void Anota(benchmark::State& estado) {
 }
 
 void Nativa(benchmark::State& estado) {
-    Banco banco;
+    Curva banco;
     for ([[maybe_unused]] auto vuelta : estado) {
         FunciónDe(estado).nativa(banco.equis, banco.valores);
         benchmark::DoNotOptimize(banco.valores.data());
@@ -66,7 +57,7 @@ void Nativa(benchmark::State& estado) {
 }
 
 void Bloque(benchmark::State& estado) {
-    Banco banco;
+    Curva banco;
     const Programa programa = banco.Compila(FunciónDe(estado).texto);
     for ([[maybe_unused]] auto vuelta : estado) {
         EvalúaBloque(banco.contexto, programa, banco.equis, banco.valores, banco.fallos);
@@ -77,7 +68,7 @@ void Bloque(benchmark::State& estado) {
 }
 
 void Escalar(benchmark::State& estado) {
-    Banco banco;
+    Curva banco;
     Programa programa = banco.Compila(FunciónDe(estado).texto);
     for ([[maybe_unused]] auto vuelta : estado) {
         for (std::size_t i = 0; i < CantidadPuntos; ++i)
@@ -89,7 +80,7 @@ void Escalar(benchmark::State& estado) {
 }
 
 void MuParser(benchmark::State& estado) {
-    Banco banco;
+    Curva banco;
     double x = 0;
     mu::Parser analizador;
     analizador.DefineVar("X", &x);

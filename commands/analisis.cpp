@@ -26,15 +26,6 @@ Intervalo DevIntervalo(const DatosFunción& datos) {
     return {datos.primero, datos.segundo, ancho / Pasos};
 }
 
-std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x) {
-    contexto.ErrorCódigo = SinFallo;
-    const double valor = EvalúaPrograma(contexto, programa, x);
-    if (contexto.ErrorCódigo == SinFallo)
-        return valor;
-    contexto.ErrorCódigo = SinFallo;
-    return std::nullopt;
-}
-
 void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
                          const Intervalo& intervalo) {
     Programa programa = CompilaExpresión(f);

@@ -38,12 +38,14 @@ void MuestraUso(Contexto& contexto, TipoDatos tipo) {
     }
 }
 
+// The fields of the line, no more of them than tell that there are too many for every form.
 std::vector<std::string> CortaCampos(std::string_view línea) {
+    constexpr std::size_t Demasiados = 4;
     std::vector<std::string> campos;
     for (;;) {
         const std::size_t coma = línea.find(',');
         campos.emplace_back(línea.substr(0, coma));
-        if (coma == std::string_view::npos)
+        if (coma == std::string_view::npos || campos.size() == Demasiados)
             return campos;
         línea.remove_prefix(coma + 1);
     }

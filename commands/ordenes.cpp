@@ -1,7 +1,12 @@
 #include "commands/ordenes.h"
 
 #include "commands/analisis.h"
+#include "commands/calculo.h"
+#include "commands/desarrollos.h"
+#include "commands/lagrange.h"
 #include "commands/numeros.h"
+#include "commands/racionales.h"
+#include "commands/sistemas.h"
 
 #include <algorithm>
 #include <array>
@@ -11,10 +16,17 @@ namespace quiralto {
 namespace {
 
 constexpr std::string_view Números = "Números";
+constexpr std::string_view Ecuaciones = "Ecuaciones y funciones";
 constexpr std::string_view Numérico = "Cálculo numérico con una variable";
+constexpr std::string_view Simbólico = "Cálculo simbólico con una variable";
+constexpr std::string_view Multivariable = "Cálculo simbólico con más de una variable";
+constexpr std::string_view Función = "f(x)";
 constexpr std::string_view FunciónYExtremos = "f(x),extremo1,extremo2";
+constexpr std::string_view FuncionesRacionales = "f(x),g(x),...";
 
 constexpr std::array Órdenes = {
+    Orden{"Resolver sistema lineal", Ecuaciones, "Resolver sistema lineal", "ecuaciones",
+          "2*X(1)+X(2)=3\r\nX(1)-X(2)=-3/2", ResolverSistemaLineal1},
     Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", "enteros", "12,18",
           ResolverMcdNúmeros},
     Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", "enteros",
@@ -35,9 +47,34 @@ constexpr std::array Órdenes = {
           "X^3,-1,1", ResolverPuntosInflexión},
     Orden{"Hallar área", Numérico, "Hallar área en un intervalo", FunciónYExtremos, "X,0,1",
           ResolverArea},
+    Orden{"Derivar", Simbólico, "Hallar derivada", Función, "X*EXP(X)", ResolverDerivada},
+    Orden{"Hallar tangente", Simbólico, "Hallar la ecuación de la tangente a un punto",
+          "f(x),punto", "X^2,3", ResolverTangente},
+    Orden{"Hallar secante", Simbólico, "Hallar la ecuación de la secante a dos puntos",
+          FunciónYExtremos, "X^2,1,3", ResolverSecante},
+    Orden{"Desarrollo completo", Simbólico, "Desarrollar totalmente", Función, "X/2+X^2/3",
+          ResolverDesarrolloCompleto},
+    Orden{"Desarrollo simplificado", Simbólico, "Desarrollar simplificadamente", Función, "(X+1)^3",
+          ResolverDesarrolloSimplificado},
+    Orden{"Simplificar función racional", Simbólico, "Simplificar función racional", Función,
+          "(X^2-3*X+2)/(X^2-1)", ResolverSimplificarFunciónRacional},
+    Orden{"Factorizar función racional", Simbólico, "Factorizar función racional", FunciónYExtremos,
+          "(X^2-1)/(X^2+X),-10,10", ResolverFactorizarFunciónRacional},
+    Orden{"Máximo común divisor función racional", Simbólico,
+          "Máximo común divisor funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          ResolverMáximoComúnDivisorFunciónRacional},
+    Orden{"Mínimo común múltiplo función racional", Simbólico,
+          "Mínimo común múltiplo funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          ResolverMínimoComúnMúltiploFunciónRacional},
+    Orden{"Desarrollo completo multivariable", Multivariable, "Desarrollar totalmente",
+          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloCompletoMultivariable},
+    Orden{"Desarrollo simplificado multivariable", Multivariable, "Desarrollar simplificadamente",
+          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloSimplificadoMultivariable},
     Orden{"Convertir coeficientes a fracción continua", Números,
-          "Convertir coeficienes a fracción continua", "f(x)", ".5*X^2+.125*X",
+          "Convertir coeficienes a fracción continua", Función, ".5*X^2+.125*X",
           ResoverConvertirCoeficientesFracciónContinua},
+    Orden{"Hallar polinomio de Lagrange", Ecuaciones, "Hallar polinomio de Lagrange",
+          "x1,y1,x2,y2,...", "2,4,3,9,4,16,5,25", ResolverPolinomioLagrange},
 };
 
 } // namespace
@@ -56,6 +93,7 @@ void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden
         EjecutaConTrampa(contexto, [&] {
             hoja.líneas = LeeTextBox(hoja.texto);
             encontrada->trabajador(contexto, hoja);
+            contexto.Vigila(); // every command can be cancelled up to its end
         });
     } catch (const OrdenCancelada&) {
         hoja.texto.resize(longitudAnterior); // commands only append

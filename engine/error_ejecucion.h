@@ -16,6 +16,7 @@ enum Fallo : std::int16_t {
     MemoriaInsuficiente = 7,
     DivisiónPorCero = 11,
     EspacioDeCadenasInsuficiente = 14,
+    NoEsFunciónRacional = 129, // the engine's own: a formula that is no rational function of X
 };
 
 // A text that a command builds may not grow past this many bytes; run-time error 14 beyond it.

@@ -56,6 +56,15 @@ double EvalúaPrograma(Contexto& contexto, Programa& programa, double x) {
     return registros[programa.Resultado()];
 }
 
+std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x) {
+    contexto.ErrorCódigo = SinFallo;
+    const double valor = EvalúaPrograma(contexto, programa, x);
+    if (contexto.ErrorCódigo == SinFallo)
+        return valor;
+    contexto.ErrorCódigo = SinFallo;
+    return std::nullopt;
+}
+
 void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
                   std::span<double> valores, std::span<std::int16_t> fallos) {
     assert(valores.size() == equis.size() && fallos.size() == equis.size());

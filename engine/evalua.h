@@ -11,6 +11,7 @@
 #include "engine/programa.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace quiralto {
@@ -19,6 +20,9 @@ namespace quiralto {
 // means nothing; a run without a fault leaves ErrorCódigo as it was. The registers keep what was
 // computed.
 double EvalúaPrograma(Contexto& contexto, Programa& programa, double x);
+
+// The value at x, or none where there is a fault. Leaves ErrorCódigo clear.
+std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x);
 
 // The same for every value of `equis`: valores[i] and fallos[i] are what EvalúaPrograma would
 // return and set at equis[i], to the bit (fallos[i] is 0 without a fault, and valores[i] means

@@ -49,6 +49,7 @@ Tubería AbreTubería() {
 
 std::vector<char*> DevPunteros(std::vector<std::string>& textos) {
     std::vector<char*> punteros;
+    punteros.reserve(textos.size() + 1);
     for (std::string& texto : textos)
         punteros.push_back(texto.data());
     punteros.push_back(nullptr);
@@ -65,7 +66,7 @@ std::vector<std::string> DevEntorno(const Llamada& llamada) {
             entorno.push_back(texto);
     }
     for (const auto& [nombre, valor] : llamada.entorno)
-        entorno.push_back(nombre + '=' + valor);
+        entorno.push_back(std::string(nombre).append("=").append(valor));
     return entorno;
 }
 

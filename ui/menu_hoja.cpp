@@ -30,7 +30,8 @@ QString DevNombre(const QMenu& menú, const Orden& orden) {
 }
 
 QMenu& DevFamilia(QMenu& menú, std::string_view familia) {
-    const QString nombre = QStringLiteral("Menú") + EnUnaPalabra(familia);
+    // The whole caption: two families differ in small words alone.
+    const QString nombre = QStringLiteral("Menú") + DevQString(familia).remove(u' ');
     if (auto* existente = menú.findChild<QMenu*>(nombre))
         return *existente;
     QMenu* nueva = menú.addMenu(DevQString(familia));

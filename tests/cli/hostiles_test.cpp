@@ -123,6 +123,7 @@ constexpr Hostil TablaDeHostiles[] = {
     {"Nulos", Molde{"X", Nulo, 1, ""}, Carácter, Carácter},
     {"NulosDeUnMega", Repite(Nulo, Mebi), Carácter, Carácter},
     {"Campos", Molde{"X", ",1", 500'000, ""}, Uso, Uso},
+    {"Comas", Repite(",", 16 * Mebi), Vacía, Vacía},
     {"Lineas", Repite("X,0,1\n", 150'000), Uso, Uso},
     {"LineasVacias", Repite("\n", Mebi), Vacía, Vacía},
     {"Comentarios", Repite("'\n", Mebi / 2), Vacía, Vacía},

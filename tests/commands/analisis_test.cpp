@@ -285,7 +285,7 @@ TEST(AnálisisSinFin, NingúnIntervaloHaceUnaBúsquedaInterminable) {
                     banco.contexto.DígitosRedondeo = cifras;
                     int preguntas = 0;
                     banco.vigilante.continúa = [&] { return ++preguntas < MáximoPreguntas; };
-                    Hoja hoja{.texto = std::string(f) + ',' + a + ',' + b,
+                    Hoja hoja{.texto = std::string(f).append(",").append(a).append(",").append(b),
                               .líneas = {},
                               .líneaSeleccionada = {}};
                     EjecutaInstrucciones(banco.contexto, hoja, orden);

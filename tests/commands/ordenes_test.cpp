@@ -1,5 +1,6 @@
 #include "commands/ordenes.h"
 
+#include "commands/fichero_primos.h"
 #include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +42,7 @@ TEST(EjecutaInstrucciones, UnTextoDesconocidoNoHaceNada) {
 TEST(EjecutaInstrucciones, CadaOrdenTrabajaConSuEjemplo) {
     for (const Orden& orden : DevÓrdenes()) {
         Banco banco;
+        CargaPrimos(banco.contexto, QUIRALTO_PRIMOS);
         Hoja hoja = DevHoja(std::string(orden.ejemplo));
         EjecutaInstrucciones(banco.contexto, hoja, orden.texto);
         EXPECT_EQ(banco.TomaMensajes(), std::vector<Mensaje>{}) << orden.texto;
@@ -63,7 +65,7 @@ TEST(EjecutaInstrucciones, HaceDeNuevoLaListaYOlvidaLaLíneaElegida) {
 TEST(EjecutaInstrucciones, UnaOrdenCanceladaDejaLaHojaComoEstaba) {
     const std::string antes = "SIN(X),-10,10\r\n'nota\r\n";
     for (const Orden& orden : DevÓrdenes()) {
-        if (orden.datos != "f(x),extremo1,extremo2")
+        if (orden.menú != "Cálculo numérico con una variable")
             continue;
         int cuántas = 0; // how often an undisturbed run asks the watcher
         Banco completa;

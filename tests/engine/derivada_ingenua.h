@@ -5,10 +5,10 @@
 #include "engine/programa.h"
 #include "engine/sintaxis.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <optional>
-#include <ranges>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -55,8 +55,9 @@ private:
         for (const std::size_t p : Fuera(t, '+'))
             if (!TrasUnoDe(t, p, "E"))
                 return con(p, Suma);
-        const std::vector<std::size_t> menos = Fuera(t, '-');
-        for (const std::size_t p : std::views::reverse(menos))
+        std::vector<std::size_t> menos = Fuera(t, '-');
+        std::ranges::reverse(menos);
+        for (const std::size_t p : menos)
             if (p != 0 && !TrasUnoDe(t, p, "E*/^"))
                 return con(p, Resta);
         if (const auto p = Fuera(t, '*'); !p.empty())

@@ -325,6 +325,12 @@ TEST(EvalúaBloque, CadaPotenciaEnteraEsLaMismaEnAmbos) {
         CompruebaBloque("X^" + std::to_string(exponente), EquisDe(300, generador));
 }
 
+TEST(EvalúaBloque, UnExponenteConXPuedeSerEntero) {
+    Generador generador(6);
+    for (const char* exponente : {"X-X-3", "X-X", "X-X+2", "X-X+3", "X-X+7", "X-X+8", "X-X+2.5"})
+        CompruebaBloque("(X/7)^(" + std::string(exponente) + ")", EquisDe(300, generador));
+}
+
 TEST(EvalúaBloque, LosProgramasDeMuchasFilasDanLoMismo) {
     // A right-leaning sum holds as many values at a time as it has terms.
     std::string hondo;

@@ -10,6 +10,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <numbers>
 #include <numeric>
 #include <random>
 
@@ -36,6 +37,7 @@ TEST(FracciónContinua, DaLosCasosConocidos) {
         {0.333333333333333, "(333333333333333/1E+15)"},
         {1.0 / 3, "(1/3)"}, // more digits than are written: a convergent has the very value
         {2.0 / 7, "(2/7)"},
+        {std::numbers::pi, "(355/113)"}, // no convergent has it: the smallest |x - p/q| * q^2
         {12345678901234.5, "(24691357802469/2)"},
         {999999999999999, "999999999999999"},
         {9007199254740992, "9.00719925474099E+15"},

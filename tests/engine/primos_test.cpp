@@ -7,6 +7,7 @@
 #include <limits>
 #include <numeric>
 #include <optional>
+#include <pthread.h>
 #include <random>
 
 namespace quiralto {
@@ -276,7 +277,18 @@ TEST(OrdenaEnteros, LaListaMásDesfavorableNoAgotaLaPila) {
         lista.push_back(i);
     Enteros ordenada = lista;
     std::ranges::sort(ordenada);
-    OrdenaEnteros(lista);
+    // On a stack that has no room for as many calls.
+    pthread_attr_t atributos;
+    ASSERT_EQ(pthread_attr_init(&atributos), 0);
+    ASSERT_EQ(pthread_attr_setstacksize(&atributos, std::size_t{256} << 10), 0);
+    pthread_t hilo{};
+    const auto ordena = [](void* datos) -> void* {
+        OrdenaEnteros(*static_cast<Enteros*>(datos));
+        return nullptr;
+    };
+    ASSERT_EQ(pthread_create(&hilo, &atributos, ordena, &lista), 0);
+    ASSERT_EQ(pthread_join(hilo, nullptr), 0);
+    pthread_attr_destroy(&atributos);
     EXPECT_EQ(lista, ordenada);
 }
 

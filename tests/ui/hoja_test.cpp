@@ -104,6 +104,17 @@ TEST_F(HojaEnVentana, CadaOrdenResuelveSuEjemplo) {
     EXPECT_TRUE(grabados.mensajes.empty());
 }
 
+TEST_F(HojaEnVentana, CadaOrdenEstáUnaVezEnSuMenú) {
+    for (const Orden& orden : DevÓrdenes()) {
+        int veces = 0;
+        for (const QMenu* menú : Busca<QMenu>("MenúHoja").findChildren<QMenu*>())
+            for (const QAction* acción : menú->actions())
+                veces += menú->title() == DevQString(orden.menú) &&
+                         acción->text() == DevQString(orden.título);
+        EXPECT_EQ(veces, 1) << orden.texto;
+    }
+}
+
 TEST_F(HojaEnVentana, SalirCierraLaVentana) {
     EXPECT_EQ(Busca<QAction>("Salir").text(), QStringLiteral("&Salir"));
     Pulsa("Salir");

@@ -1,0 +1,24 @@
+// A context that shows nothing and is never cancelled.
+#pragma once
+
+#include "engine/contexto.h"
+
+namespace quiralto::bench {
+
+class Silencio : public Mensajes {
+public:
+    void Muestra(Icono, std::string_view) override {}
+};
+
+class SinVigilante : public Vigilante {
+public:
+    bool Continúa() override { return true; }
+};
+
+struct Banco {
+    Silencio silencio;
+    SinVigilante vigilante;
+    Contexto contexto{silencio, vigilante};
+};
+
+} // namespace quiralto::bench

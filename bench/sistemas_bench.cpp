@@ -1,0 +1,99 @@
+// Dense linear systems: reading, elimination and the whole command, beside Eigen's LU on the
+// numbers alone.
+
+#include "commands/ordenes.h"
+#include "commands/sistemas.h"
+#include "engine/ecuacion_lineal.h"
+#include "engine/sistema_lineal.h"
+#include "tests/apoyo.h"
+
+#include <Eigen/LU>
+#include <benchmark/benchmark.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace quiralto;
+
+struct Sistema {
+    Eigen::MatrixXd matriz;
+    Eigen::VectorXd constantes;
+    std::vector<std::string> ecuaciones; // expresión = 0, in SLN
+    std::string hoja;
+};
+
+Sistema Sortea(int n) {
+    std::mt19937 azar(99);
+    Sistema sistema{Eigen::MatrixXd(n, n), Eigen::VectorXd(n), {}, {}};
+    for (int i = 0; i < n; ++i) {
+        std::string lado;
+        for (int j = 0; j < n; ++j) {
+            const int coeficiente = static_cast<int>(azar() % 19) - 9 + (i == j ? 40 : 0);
+            sistema.matriz(i, j) = coeficiente;
+            lado += (coeficiente < 0 ? "-" : "+") + std::to_string(std::abs(coeficiente)) + "*X(" +
+                    std::to_string(j + 1) + ")";
+        }
+        const int constante = static_cast<int>(azar() % 199) - 99;
+        sistema.constantes(i) = constante;
+        lado.erase(0, lado.front() == '+' ? 1 : 0);
+        sistema.ecuaciones.push_back(
+            Sustituye1(lado + (constante < 0 ? "+" : "-") + std::to_string(std::abs(constante))));
+        sistema.hoja += (i == 0 ? "" : "\r\n") + lado + "=" + std::to_string(constante);
+    }
+    return sistema;
+}
+
+void Orden_(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    Banco pantalla;
+    for (auto _ : estado) {
+        Hoja hoja{.texto = sistema.hoja, .líneas = {}, .líneaSeleccionada = {}};
+        EjecutaInstrucciones(pantalla.contexto, hoja, "Resolver sistema lineal");
+        benchmark::DoNotOptimize(hoja.texto.data());
+    }
+}
+
+std::vector<EcuaciónLineal> Lee(Contexto& contexto, const Sistema& sistema) {
+    std::vector<EcuaciónLineal> ecuaciones;
+    for (const std::string& texto : sistema.ecuaciones)
+        ecuaciones.push_back(*LeeEcuaciónLineal(contexto, texto));
+    return ecuaciones;
+}
+
+void Lectura(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    Banco pantalla;
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(Lee(pantalla.contexto, sistema));
+}
+
+void Eliminación(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    Banco pantalla;
+    const std::vector<EcuaciónLineal> ecuaciones = Lee(pantalla.contexto, sistema);
+    for (auto _ : estado) {
+        SistemaLineal lineal(pantalla.contexto, ecuaciones);
+        lineal.Elimina();
+        benchmark::DoNotOptimize(lineal.DevLíderes());
+    }
+}
+
+void LuDeEigen(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    for (auto _ : estado) {
+        const Eigen::VectorXd solución = sistema.matriz.partialPivLu().solve(sistema.constantes);
+        benchmark::DoNotOptimize(solución.data());
+    }
+}
+
+BENCHMARK(Orden_)->Name("la orden entera")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK(Lectura)->Name("lectura y desarrollo")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK(Eliminación)->Name("eliminación")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK(LuDeEigen)->Name("LU de Eigen, solo números")->RangeMultiplier(2)->Range(32, 256);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,73 @@
+#include "commands/lagrange.h"
+
+#include "commands/datos_numeros.h"
+#include "engine/compila.h"
+#include "engine/numero.h"
+#include "engine/racional.h"
+#include "engine/sintaxis.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quiralto {
+namespace {
+
+std::optional<std::vector<double>> CargaPuntosLagrange(Contexto& contexto, Hoja& hoja) {
+    auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::DoblePrecisión, 0);
+    if (!números)
+        return std::nullopt;
+    if (números->size() % 2 != 0) {
+        contexto.Avisa("Se esperaban una lista con un número par de datos, en la forma "
+                       "x1,y1,x2,y2,.....,xn,yn; ejemplo : \r\n"
+                       "2,4,3,9,4,16,5,25");
+        return std::nullopt;
+    }
+    if (números->size() <= 2) {
+        contexto.Avisa("Se esperaban por lo menos dos parejas de valores "
+                       " en la forma x1,y1,x2,y2,....; ejemplo : \r\n"
+                       "2,8,6,216");
+        return std::nullopt;
+    }
+    return números;
+}
+
+// The sum of yi*(X-xj)/(xi-xj)*... over all j other than i.
+std::string DevSumaLagrange(Contexto& contexto, std::span<const double> números) {
+    std::string suma;
+    for (std::size_t i = 0; i < números.size(); i += 2) {
+        contexto.Vigila();
+        if (i > 0)
+            suma += '+';
+        suma += TextoNúmero(números[i + 1]);
+        for (std::size_t j = 0; j < números.size(); j += 2) {
+            if (j == i)
+                continue;
+            (suma += "*(X-").append(TextoNúmero(números[j])) += ")/";
+            suma += TextoNúmero(CompruebaFinito(números[i] - números[j]));
+        }
+        if (suma.size() > MáximoTexto)
+            throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+    }
+    return SimplificaSignos(suma);
+}
+
+// Whatever fails here is an unexpected error: the user has typed no formula.
+std::string DevPolLagrange(Contexto& contexto, std::span<const double> números) {
+    const Programa programa = CompilaExpresión(DevSumaLagrange(contexto, números));
+    return SeparaRacional(contexto,
+                          SimplificaRacional(contexto, CalculaRacional(contexto, programa)));
+}
+
+} // namespace
+
+void ResolverPolinomioLagrange(Contexto& contexto, Hoja& hoja) {
+    const auto números = CargaPuntosLagrange(contexto, hoja);
+    if (!números)
+        return;
+    const std::string polinomio = DevPolLagrange(contexto, *números);
+    hoja.texto += "\r\n\r\n'Polinomio de Lagrange: \r\n'" + polinomio;
+}
+
+} // namespace quiralto

@@ -1,0 +1,14 @@
+// The polynomial through given points.
+#pragma once
+
+#include "commands/hoja.h"
+#include "engine/contexto.h"
+
+namespace quiralto {
+
+// The worker of the menu command: reads x1,y1,x2,y2,... and appends the interpolating polynomial; a
+// refused input appends nothing. Fault: run-time error 11 for two points with the same x; 6 for
+// more points than a program has registers for.
+void ResolverPolinomioLagrange(Contexto& contexto, Hoja& hoja);
+
+} // namespace quiralto

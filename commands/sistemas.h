@@ -1,0 +1,22 @@
+// Systems of linear equations in the unknowns X(1) to X(256), one equation a line.
+#pragma once
+
+#include "commands/hoja.h"
+#include "engine/contexto.h"
+
+#include <string>
+#include <string_view>
+
+namespace quiralto {
+
+// The worker of the menu command: appends every unknown, the highest first, as an expression in
+// the free ones, which are written SLN(i). A refused line is selected and nothing is appended.
+void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja);
+
+// Every "X(" and "x(" as "SLN(".
+std::string Sustituye1(std::string_view texto);
+
+// Whether the text has one "=", neither first nor last; otherwise a message has been shown.
+bool IgualdadCorrecta(Contexto& contexto, std::string_view texto);
+
+} // namespace quiralto

@@ -1,0 +1,149 @@
+#include "apoyo.h"
+#include "commands/ordenes.h"
+#include "commands/sistemas.h"
+#include "engine/compila.h"
+#include "engine/evalua.h"
+#include "engine/numero.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <random>
+
+namespace quiralto {
+namespace {
+
+constexpr std::string_view Texto = "Resolver sistema lineal";
+
+using Matriz = std::vector<std::vector<double>>; // the constant last
+
+std::string EscribeEcuaciones(const Matriz& matriz) {
+    std::string hoja;
+    for (const std::vector<double>& fila : matriz) {
+        std::string ecuación;
+        for (std::size_t j = 0; j + 1 < fila.size(); ++j)
+            if (fila[j] != 0)
+                ecuación += (fila[j] < 0 ? "-" : "+") + TextoNúmero(std::fabs(fila[j])) + "*X(" +
+                            std::to_string(j + 1) + ")";
+        hoja += (hoja.empty() ? "" : "\r\n") + ecuación + "=" + TextoNúmero(fila.back());
+    }
+    return hoja;
+}
+
+std::string Resuelve(const std::string& texto) {
+    Banco banco;
+    Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+    EjecutaInstrucciones(banco.contexto, hoja, Texto);
+    EXPECT_TRUE(banco.TomaMensajes().empty());
+    return hoja.texto.substr(texto.size());
+}
+
+// The unknowns' values, each free one with the value given.
+std::vector<double> LeeSoluciones(const std::string& salida, const std::vector<double>& libres) {
+    Banco banco;
+    std::vector<double> valores(libres.size());
+    for (const std::string_view línea : CortaLíneas(salida)) {
+        if (!línea.starts_with("'X("))
+            continue;
+        const auto j = static_cast<std::size_t>(Val(línea.substr(3)));
+        std::string texto(línea.substr(línea.find('=') + 1));
+        for (std::size_t i = 0; (i = texto.find("SLN(", i)) != std::string::npos;) {
+            const std::size_t fin = texto.find(')', i);
+            const auto k = static_cast<std::size_t>(Val(texto.substr(i + 4)));
+            texto.replace(i, fin + 1 - i, "(" + TextoNúmero(libres.at(k - 1)) + ")");
+        }
+        Programa programa = CompilaExpresión(texto);
+        valores.at(j - 1) = EvalúaPrograma(banco.contexto, programa, 0);
+    }
+    return valores;
+}
+
+TEST(Sistemas, HallanLaSoluciónConLaQueSeHicieron) {
+    std::mt19937_64 azar(4242);
+    const auto entero = [&](int máximo) {
+        return static_cast<double>(azar() % static_cast<unsigned>(2 * máximo + 1)) - máximo;
+    };
+    for (const std::size_t n : {1, 2, 3, 5, 8, 16, 40, 100, 256}) {
+        std::vector<double> solución;
+        for (std::size_t j = 0; j < n; ++j)
+            solución.push_back(entero(9));
+        Matriz matriz;
+        for (std::size_t i = 0; i < n; ++i) {
+            std::vector<double> fila;
+            double suma = 0;
+            for (std::size_t j = 0; j < n; ++j) {
+                // a heavy diagonal keeps the system well-conditioned
+                fila.push_back(entero(9) + (i == j ? 10.0 * static_cast<double>(n) : 0));
+                suma += fila.back() * solución[j];
+            }
+            fila.push_back(suma);
+            matriz.push_back(fila);
+        }
+        const auto halladas =
+            LeeSoluciones(Resuelve(EscribeEcuaciones(matriz)), std::vector<double>(n, 0));
+        for (std::size_t j = 0; j < n; ++j)
+            EXPECT_NEAR(halladas[j], solución[j], 1e-6) << n << " incógnitas, la " << j + 1;
+    }
+}
+
+TEST(Sistemas, DeRangoMenorSeCumplenConCualquierValorDeLasLibres) {
+    std::mt19937_64 azar(777);
+    const auto entero = [&](int máximo) {
+        return static_cast<double>(azar() % static_cast<unsigned>(2 * máximo + 1)) - máximo;
+    };
+    for (int vez = 0; vez < 60; ++vez) {
+        const std::size_t n = 3 + static_cast<std::size_t>(vez) % 8;
+        Matriz matriz;
+        for (std::size_t i = 0; i + 2 < n; ++i) {
+            std::vector<double> fila;
+            for (std::size_t j = 0; j <= n; ++j)
+                fila.push_back(entero(5));
+            fila[i] += 20;
+            matriz.push_back(fila);
+        }
+        std::vector<double> suma(n + 1); // a row more that says nothing new
+        for (const auto& fila : matriz)
+            for (std::size_t j = 0; j <= n; ++j)
+                suma[j] += fila[j];
+        matriz.push_back(suma);
+        std::vector<double> libres;
+        for (std::size_t j = 0; j < n; ++j)
+            libres.push_back(entero(9));
+        const std::string salida = Resuelve(EscribeEcuaciones(matriz));
+        EXPECT_NE(salida.find("'SLN(i), indica"), std::string::npos);
+        const auto valores = LeeSoluciones(salida, libres);
+        for (const auto& fila : matriz) {
+            double lado = 0;
+            for (std::size_t j = 0; j < n; ++j)
+                lado += fila[j] * valores[j];
+            EXPECT_NEAR(lado, fila[n], 1e-4);
+        }
+        matriz.back()[n] += 1;
+        EXPECT_EQ(Resuelve(EscribeEcuaciones(matriz)),
+                  "\r\n'El sistema anterior es imcompatible en la ecuación : " +
+                      std::to_string(matriz.size()));
+    }
+}
+
+TEST(Sistemas, DejanElPrefijoComoEstaba) {
+    for (const char* texto : {"X(1)=1", "X(1)^2=1", "1/0*X(1)=1", "X(1)=1)"}) {
+        Banco banco;
+        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        EjecutaInstrucciones(banco.contexto, hoja, Texto);
+        EXPECT_EQ(banco.contexto.PrefijoVariable, "") << texto;
+    }
+    Banco banco;
+    banco.vigilante.continúa = [] { return false; };
+    Hoja hoja{.texto = "X(1)=1", .líneas = {}, .líneaSeleccionada = {}};
+    EjecutaInstrucciones(banco.contexto, hoja, Texto);
+    EXPECT_EQ(banco.contexto.PrefijoVariable, "");
+    EXPECT_EQ(hoja.texto, "X(1)=1");
+}
+
+TEST(Sistemas, SustituyenLasIncógnitas) {
+    EXPECT_EQ(Sustituye1("X(3)+x(3)*EXP(2)-X"), "SLN(3)+SLN(3)*EXP(2)-X");
+}
+
+} // namespace
+} // namespace quiralto
