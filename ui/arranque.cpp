@@ -11,6 +11,7 @@ namespace quiralto {
 void Retardo(std::chrono::milliseconds tiempo) {
     QEventLoop bucle;
     QTimer reloj;
+    reloj.setTimerType(Qt::PreciseTimer); // others may run out earlier
     reloj.setSingleShot(true);
     QObject::connect(&reloj, &QTimer::timeout, &bucle, &QEventLoop::quit);
     reloj.start(tiempo);
