@@ -10,7 +10,11 @@ namespace quiralto {
 
 void Retardo(std::chrono::milliseconds tiempo) {
     QEventLoop bucle;
-    QTimer::singleShot(tiempo, &bucle, &QEventLoop::quit);
+    QTimer reloj;
+    reloj.setTimerType(Qt::PreciseTimer); // others may run out earlier
+    reloj.setSingleShot(true);
+    QObject::connect(&reloj, &QTimer::timeout, &bucle, &QEventLoop::quit);
+    reloj.start(tiempo);
     bucle.exec();
 }
 

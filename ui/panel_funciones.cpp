@@ -8,7 +8,6 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QSignalBlocker>
-#include <QTimer>
 
 namespace quiralto {
 namespace {
@@ -59,6 +58,11 @@ PanelFunciones::PanelFunciones(Contexto& contexto, VentanaGráfica& vista,
     rejilla->setColumnStretch(3, 1);
     for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
         CreaFila(i);
+    trasSalir_.setSingleShot(true);
+    connect(&trasSalir_, &QTimer::timeout, this, [this] {
+        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+            AlSalir(i);
+    });
     txtPuntoX_ = CreaValor(this, QStringLiteral("txtPuntoX"), QStringLiteral("Punto X"));
     auto* etiqueta = new QLabel(QStringLiteral("&Punto X ="), this);
     etiqueta->setBuddy(txtPuntoX_);
@@ -98,10 +102,8 @@ void PanelFunciones::CreaFila(int índice) {
     connect(fila.txtfx, &QLineEdit::returnPressed, this, [this, índice] { AlPulsarIntro(índice); });
     connect(fila.chkfx, &QCheckBox::toggled, this,
             [this, índice](bool activa) { AlConmutar(índice, activa); });
-    fila.txtfx->alSalir = [this, índice] {
-        // Not now: the click that takes the focus away comes first.
-        QTimer::singleShot(0, this, [this, índice] { AlSalir(índice); });
-    };
+    // Not now: the click that takes the focus away comes first.
+    fila.txtfx->alSalir = [this] { trasSalir_.start(0); };
 }
 
 void PanelFunciones::ActualizaX() {

@@ -7,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QTimer>
 
 #include <array>
 #include <functional>
@@ -46,6 +47,7 @@ private:
     VentanaGráfica& vista_;
     std::function<void()> alCambiar_;
     std::array<Fila, VentanaGráfica::CantidadFunciones> filas_{};
+    QTimer trasSalir_; // runs out once a box has lost the focus
     QLineEdit* txtPuntoX_;
     bool cerrado_ = false;
 };
