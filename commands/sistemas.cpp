@@ -99,11 +99,12 @@ void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
                               " por ejemplo :\r\n\r\n2*X(1)+X(2)=3\r\nX(1)-X(2)=-3/2");
     SistemaLineal sistema(contexto, ecuaciones);
     sistema.Elimina();
-    if (const auto fila = sistema.DevIncompatible())
-        hoja.texto +=
-            "\r\n'El sistema anterior es imcompatible en la ecuación : " + std::to_string(*fila);
-    else
+    std::size_t fila = 0;
+    if (sistema.SistemaCompatibleSln(fila))
         hoja.texto += DevSoluciones(contexto, sistema);
+    else
+        hoja.texto +=
+            "\r\n'El sistema anterior es imcompatible en la ecuación : " + std::to_string(fila);
 }
 
 std::string Sustituye1(std::string_view texto) {

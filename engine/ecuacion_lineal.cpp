@@ -20,7 +20,7 @@ bool RechazaNoLineal(Contexto& contexto) {
 }
 
 // The index of a lone unknown; 0 where it is no whole number in the range.
-int DevÍndiceSln(std::string_view base) {
+int DevIndiceSln(std::string_view base) {
     const std::string_view índice = base.substr(PrefijoSln.size());
     const NúmeroLeído leído = LeeNúmero(índice);
     const bool entero = leído.longitud + 1 == índice.size() && EsEntero(leído.valor);
@@ -53,7 +53,7 @@ class Lector {
 public:
     Lector(Contexto& contexto, const TablaSímbolos& tabla) : contexto_(contexto), tabla_(tabla) {}
 
-    bool Lee(const Términos& suma) {
+    bool SintaxisSln(const Términos& suma) {
         for (const Término& término : suma)
             if (!LeeTérmino(término))
                 return false;
@@ -78,14 +78,11 @@ private:
             if (!tabla_.EsLlano(factor.símbolo) || factor.exponente != 1 || EsX(base))
                 return RechazaNoLineal(contexto_);
             if (EsIncógnita(base)) {
-                const int suyo = DevÍndiceSln(base.texto);
-                if (suyo == 0) {
-                    contexto_.Avisa("El índice de una variable no está en el rango 1 a 256");
+                if (!IndiceCorrectoSln(base.texto))
                     return false;
-                }
                 if (índice != 0)
                     return RechazaNoLineal(contexto_);
-                índice = suyo;
+                índice = DevIndiceSln(base.texto);
                 continue;
             }
             const std::optional<double> valor = DevConstante(base);
@@ -101,6 +98,13 @@ private:
             hayIncógnitas_ = true;
         }
         return true;
+    }
+
+    bool IndiceCorrectoSln(std::string_view base) {
+        if (DevIndiceSln(base) != 0)
+            return true;
+        contexto_.Avisa("El índice de una variable no está en el rango 1 a 256");
+        return false;
     }
 
     std::optional<double> DevConstante(const Base& base) {
@@ -124,7 +128,7 @@ std::optional<EcuaciónLineal> LeeEcuaciónLineal(Contexto& contexto, std::strin
     tabla.soloPorLetra = true;
     const Términos suma = DesarrollaEnTérminos(tabla, CompilaExpresión(expresión));
     Lector lector(contexto, tabla);
-    if (!lector.Lee(suma))
+    if (!lector.SintaxisSln(suma))
         return std::nullopt;
     return lector.Toma();
 }

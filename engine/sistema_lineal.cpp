@@ -28,13 +28,13 @@ double SistemaLineal::Elemento(std::size_t fila, std::size_t columna) const {
 
 void SistemaLineal::Elimina() {
     for (std::size_t columna = 0; columna < incógnitas_; ++columna)
-        if (const auto pivote = BuscaPivote(columna))
-            Transforma(columna, *pivote);
+        if (const auto pivote = CoeficienteSln(columna))
+            TrasformarSln(columna, *pivote);
     for (const double elemento : elementos_)
         CompruebaFinito(elemento);
 }
 
-std::optional<std::size_t> SistemaLineal::BuscaPivote(std::size_t columna) {
+std::optional<std::size_t> SistemaLineal::CoeficienteSln(std::size_t columna) {
     for (std::size_t fila = 0; fila < filas_; ++fila) {
         if (usadas_[fila] || Elemento(fila, columna) == 0)
             continue;
@@ -44,7 +44,7 @@ std::optional<std::size_t> SistemaLineal::BuscaPivote(std::size_t columna) {
     return std::nullopt;
 }
 
-void SistemaLineal::Transforma(std::size_t columna, std::size_t pivote) {
+void SistemaLineal::TrasformarSln(std::size_t columna, std::size_t pivote) {
     const double* const delPivote = Fila(pivote);
     constexpr std::size_t EntreVigilias = 64;
     for (std::size_t fila = 0; fila < filas_; ++fila) {
@@ -60,15 +60,17 @@ void SistemaLineal::Transforma(std::size_t columna, std::size_t pivote) {
     }
 }
 
-std::optional<std::size_t> SistemaLineal::DevIncompatible() const {
-    for (std::size_t fila = 0; fila < filas_; ++fila) {
+bool SistemaLineal::SistemaCompatibleSln(std::size_t& fila) const {
+    for (std::size_t i = 0; i < filas_; ++i) {
         std::size_t c = 0;
-        while (c < incógnitas_ && Elemento(fila, c) == 0)
+        while (c < incógnitas_ && Elemento(i, c) == 0)
             ++c;
-        if (c == incógnitas_ && Independiente(fila) != 0)
-            return fila + 1;
+        if (c == incógnitas_ && Independiente(i) != 0) {
+            fila = i + 1;
+            return false;
+        }
     }
-    return std::nullopt;
+    return true;
 }
 
 std::vector<std::optional<std::size_t>> SistemaLineal::DevLíderes() const {

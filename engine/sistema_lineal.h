@@ -22,8 +22,9 @@ public:
     // row not yet used. The watcher is asked. Fault: run-time error 6 beyond the Double range.
     void Elimina();
 
-    // Once eliminated: the first row (from 1) without unknowns whose constant is not 0.
-    std::optional<std::size_t> DevIncompatible() const;
+    // Once eliminated: false where a row without unknowns has a constant that is not 0, and the
+    // first such row (from 1).
+    bool SistemaCompatibleSln(std::size_t& fila) const;
 
     // Once eliminated: for every unknown (from index 1) the row that leads with it, or none where
     // it is free.
@@ -38,8 +39,8 @@ public:
 
 private:
     double* Fila(std::size_t fila) { return elementos_.data() + fila * ancho_; }
-    std::optional<std::size_t> BuscaPivote(std::size_t columna);
-    void Transforma(std::size_t columna, std::size_t pivote);
+    std::optional<std::size_t> CoeficienteSln(std::size_t columna);
+    void TrasformarSln(std::size_t columna, std::size_t pivote);
 
     Contexto& contexto_;
     std::size_t filas_;
