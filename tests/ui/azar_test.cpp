@@ -1,6 +1,7 @@
 // Random clicks, keys and texts all over the window: whatever happens, it goes on, and the view can
 // be drawn. The seed is fixed, and printed with a failure.
 
+#include "tests/ui/dialogos.h"
 #include "tests/ui/ventana_de_prueba.h"
 
 #include <QMenu>
@@ -88,6 +89,7 @@ protected:
 };
 
 TEST_P(AlAzar, LaVentanaSigueEnPie) {
+    const DiálogosPermitidos extremos; // the extremes dialog may stay open for many actions
     for (int i = 0; i < 1000; ++i) {
         switch (azar() % 4) {
         case 0:

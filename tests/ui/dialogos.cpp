@@ -10,7 +10,7 @@
 namespace quiralto {
 namespace {
 
-int esperando = 0; // how many ConDiálogos are under way
+int esperando = 0; // how many expect a dialog just now
 
 } // namespace
 
@@ -32,6 +32,14 @@ int ConDiálogos(const std::function<void()>& acción,
     acción();
     --esperando;
     return vistos;
+}
+
+DiálogosPermitidos::DiálogosPermitidos() {
+    ++esperando;
+}
+
+DiálogosPermitidos::~DiálogosPermitidos() {
+    --esperando;
 }
 
 void Acepta(QWidget& diálogo) {

@@ -18,6 +18,15 @@ int ConDiálogos(const std::function<void()>& acción,
 // Presses the button of a message box that is its default.
 void Acepta(QWidget& diálogo);
 
+// While it lives the watchdog lets dialogs stand: for tests that open them at random.
+class DiálogosPermitidos {
+public:
+    DiálogosPermitidos();
+    ~DiálogosPermitidos();
+    DiálogosPermitidos(const DiálogosPermitidos&) = delete;
+    DiálogosPermitidos& operator=(const DiálogosPermitidos&) = delete;
+};
+
 // The watchdog; one lives as long as the tests run.
 class VigíaDeDiálogos {
 public:
