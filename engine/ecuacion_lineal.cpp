@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace quiralto {
 namespace {
@@ -19,14 +20,14 @@ bool RechazaNoLineal(Contexto& contexto) {
     return false;
 }
 
-// The index of a lone unknown; 0 where it is no whole number in the range.
+// The index of a lone unknown, rounded to a whole number (a half to the even one); 0 where it is no
+// number in the range.
 int DevIndiceSln(std::string_view base) {
     const std::string_view índice = base.substr(PrefijoSln.size());
     const NúmeroLeído leído = LeeNúmero(índice);
-    const bool entero = leído.longitud + 1 == índice.size() && EsEntero(leído.valor);
-    return entero && leído.valor >= 1 && leído.valor <= MáximoÍndiceSln
-               ? static_cast<int>(leído.valor)
-               : 0;
+    const double entero = std::nearbyint(leído.valor);
+    const bool número = leído.longitud + 1 == índice.size();
+    return número && entero >= 1 && entero <= MáximoÍndiceSln ? static_cast<int>(entero) : 0;
 }
 
 // Whether the base is one call of SLN and nothing else.
