@@ -81,6 +81,15 @@ void Eliminación(benchmark::State& estado) {
     }
 }
 
+void Escritura(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    Banco pantalla;
+    SistemaLineal lineal(pantalla.contexto, Lee(pantalla.contexto, sistema));
+    lineal.Elimina();
+    for (auto _ : estado)
+        benchmark::DoNotOptimize(ResolverSistemaLineal4(pantalla.contexto, lineal));
+}
+
 void LuDeEigen(benchmark::State& estado) {
     const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
     for (auto _ : estado) {
@@ -92,6 +101,7 @@ void LuDeEigen(benchmark::State& estado) {
 BENCHMARK(Orden_)->Name("la orden entera")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Lectura)->Name("lectura y desarrollo")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Eliminación)->Name("eliminación")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK(Escritura)->Name("escritura")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(LuDeEigen)->Name("LU de Eigen, solo números")->RangeMultiplier(2)->Range(32, 256);
 
 } // namespace

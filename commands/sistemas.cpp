@@ -62,25 +62,6 @@ void EscribeSolución(std::string& salida, const SistemaLineal& sistema, std::si
         salida += '0';
 }
 
-std::string DevSoluciones(Contexto& contexto, const SistemaLineal& sistema) {
-    const auto líderes = sistema.DevLíderes();
-    std::string salida = "\r\n\r\n'Soluciones halladas :\r\n";
-    for (std::size_t j = sistema.Incógnitas(); j-- > 0;) {
-        contexto.Vigila();
-        const std::string índice = std::to_string(j + 1);
-        salida += "\r\n'X(" + índice + ")=";
-        if (líderes[j])
-            EscribeSolución(salida, sistema, *líderes[j], j, contexto.DígitosRedondeo);
-        else
-            salida += "SLN(" + índice + ")";
-    }
-    salida += "\r\n";
-    if (salida.find("SLN") != std::string::npos)
-        salida += "\r\n'SLN(i), indica que la solución de la variable 'X(i)' "
-                  "es un número real cualquiera.";
-    return salida;
-}
-
 } // namespace
 
 void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
@@ -101,10 +82,29 @@ void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
     sistema.Elimina();
     std::size_t fila = 0;
     if (sistema.SistemaCompatibleSln(fila))
-        hoja.texto += DevSoluciones(contexto, sistema);
+        hoja.texto += ResolverSistemaLineal4(contexto, sistema);
     else
         hoja.texto +=
             "\r\n'El sistema anterior es imcompatible en la ecuación : " + std::to_string(fila);
+}
+
+std::string ResolverSistemaLineal4(Contexto& contexto, const SistemaLineal& sistema) {
+    const auto líderes = sistema.DevLíderes();
+    std::string salida = "\r\n\r\n'Soluciones halladas :\r\n";
+    for (std::size_t j = sistema.Incógnitas(); j-- > 0;) {
+        contexto.Vigila();
+        const std::string índice = std::to_string(j + 1);
+        salida += "\r\n'X(" + índice + ")=";
+        if (líderes[j])
+            EscribeSolución(salida, sistema, *líderes[j], j, contexto.DígitosRedondeo);
+        else
+            salida += "SLN(" + índice + ")";
+    }
+    salida += "\r\n";
+    if (salida.find("SLN") != std::string::npos)
+        salida += "\r\n'SLN(i), indica que la solución de la variable 'X(i)' "
+                  "es un número real cualquiera.";
+    return salida;
 }
 
 std::string Sustituye1(std::string_view texto) {

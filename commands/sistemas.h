@@ -3,6 +3,7 @@
 
 #include "commands/hoja.h"
 #include "engine/contexto.h"
+#include "engine/sistema_lineal.h"
 
 #include <string>
 #include <string_view>
@@ -12,6 +13,10 @@ namespace quiralto {
 // The worker of the menu command: appends every unknown, the highest first, as an expression in
 // the free ones, which are written SLN(i). A refused line is selected and nothing is appended.
 void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja);
+
+// The output for an eliminated system that is compatible: every unknown, the highest first, and
+// what SLN(i) means where one is free. The watcher is asked.
+std::string ResolverSistemaLineal4(Contexto& contexto, const SistemaLineal& sistema);
 
 // Every "X(" and "x(" as "SLN(".
 std::string Sustituye1(std::string_view texto);
