@@ -46,13 +46,23 @@ Términos MultiplicaSinReducir(TablaSímbolos& tabla, const Términos& a, const 
     for (const Término& ta : a) {
         const bool cocienteA = tabla.HayCocientes() && DevCocienteDe(tabla, ta.literal) != nullptr;
         for (const Término& tb : b) {
-            if (cocienteA ||
-                (tabla.HayCocientes() && DevCocienteDe(tabla, tb.literal) != nullptr)) {
+            const bool cocienteB =
+                tabla.HayCocientes() && DevCocienteDe(tabla, tb.literal) != nullptr;
+            const double coeficiente = ta.coeficiente * tb.coeficiente;
+            if (cocienteA && tb.literal.empty() && EstáReducido(tabla, {coeficiente, ta.literal})) {
+                producto.Añade(coeficiente, ta.literal);
+                continue;
+            }
+            if (cocienteB && ta.literal.empty() && EstáReducido(tabla, {coeficiente, tb.literal})) {
+                producto.Añade(coeficiente, tb.literal);
+                continue;
+            }
+            if (cocienteA || cocienteB) {
                 producto.Añade(MultiplicaCociente(tabla, ta, tb));
                 continue;
             }
             MultiplicaLiterales(tabla, ta.literal, tb.literal, literal);
-            producto.Añade(ta.coeficiente * tb.coeficiente, literal);
+            producto.Añade(coeficiente, literal);
         }
     }
     return producto.Toma();
@@ -133,7 +143,7 @@ Términos ElevaTérmino(TablaSímbolos& tabla, const Término& término, double 
         numerador = ElevaAEntero(tabla, numerador, std::fabs(n));
         return DevCociente(tabla, numerador, ElevaAEntero(tabla, denominador, std::fabs(n)));
     }
-    const double coeficiente = CompruebaFinito(DevPotencia(término.coeficiente, n));
+    const double coeficiente = LimpiaEntero(CompruebaFinito(DevPotencia(término.coeficiente, n)));
     if (coeficiente == 0)
         return {};
     Literal literal = término.literal;
@@ -189,7 +199,7 @@ IdSímbolo DevBaseDe(TablaSímbolos& tabla, const Términos& suma) {
 Términos ElevaNúmero(double base, double exponente) {
     if (base == 0 && exponente < 0)
         throw ErrorEjecución(DivisiónPorCero);
-    return SumaNúmero(CompruebaFinito(DevPotencia(base, exponente)));
+    return SumaNúmero(LimpiaEntero(CompruebaFinito(DevPotencia(base, exponente))));
 }
 
 Términos ElevaAFraccionario(TablaSímbolos& tabla, const Términos& base, double exponente) {

@@ -42,6 +42,9 @@ Fracción DevFracción(TablaSímbolos& tabla, const Términos& suma);
 Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos denominador,
                      std::span<const Términos> divisores = {});
 
+// Whether a term, if it is a quotient, is as it would be with the coefficient drawn into it.
+bool EstáReducido(const TablaSímbolos& tabla, const Término& término);
+
 // The sum with its exponents as each of them would be expanded by itself: quotients reduced, and in
 // a complete expansion over one denominator.
 Términos AsientaSuma(TablaSímbolos& tabla, Términos suma);

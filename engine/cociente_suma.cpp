@@ -74,9 +74,7 @@ public:
             return {};
         if (!EsNúmero(d_)) {
             AbreCociente();
-            while (d_.size() == 1 && PasaAlNumerador()) {
-            }
-            CancelaPotencias();
+            CancelaTérminos();
             CancelaPorValores();
             CancelaSumas();
         }
@@ -130,6 +128,12 @@ private:
         d_[0].literal = std::move(queda);
         n_ = MultiplicaSumas(tabla_, n_, {{1, std::move(pasa)}});
         return true;
+    }
+
+    void CancelaTérminos() {
+        while (d_.size() == 1 && PasaAlNumerador()) {
+        }
+        CancelaPotencias();
     }
 
     void CancelaPotencias() {
@@ -189,34 +193,42 @@ private:
             return;
         if (CancelaProporcional() || HayCocientes(tabla_, n_) || HayCocientes(tabla_, d_))
             return;
-        auto [d, contenido] = SeparaContenido(d_);
-        if (auto cociente = DivideExacta(tabla_, n_, d)) {
-            n_ = std::move(*cociente);
-            d_ = std::move(contenido);
-            if (!EsNúmero(d_))
-                CancelaPotencias();
-            return;
-        }
-        if (CancelaDivisor(n_))
-            return;
-        for (const Términos& divisor : divisores_)
-            while (n_.size() > 1 && d_.size() > 1 && CancelaDivisor(divisor)) {
+        ConContenido n = SeparaContenido(n_);
+        ConContenido d = SeparaContenido(d_);
+        bool cancelado = false;
+        if (auto cociente = DivideExacta(tabla_, n.primitiva, d.primitiva)) {
+            n.primitiva = std::move(*cociente);
+            d.primitiva = SumaNúmero(1);
+            cancelado = true;
+        } else {
+            cancelado = CancelaDivisor(n.primitiva, d.primitiva, n.primitiva);
+            for (const Términos& divisor : divisores_) {
+                if (divisor.size() < 2)
+                    continue;
+                const Términos primitiva = SeparaContenido(divisor).primitiva;
+                while (CancelaDivisor(n.primitiva, d.primitiva, primitiva))
+                    cancelado = true;
             }
+        }
+        if (!cancelado)
+            return;
+        n_ = MultiplicaSumas(tabla_, n.primitiva, n.contenido);
+        d_ = MultiplicaSumas(tabla_, d.primitiva, d.contenido);
+        CancelaTérminos();
     }
 
     // Divides both sides by a sum that divides both.
-    bool CancelaDivisor(Términos divisor) {
-        if (divisor.size() < 2)
+    bool CancelaDivisor(Términos& n, Términos& d, const Términos& divisor) const {
+        if (n.size() < 2 || d.size() < 2)
             return false;
-        divisor = SeparaContenido(std::move(divisor)).primitiva;
-        auto d = DivideExacta(tabla_, d_, divisor);
-        if (!d)
+        auto deD = DivideExacta(tabla_, d, divisor);
+        if (!deD)
             return false;
-        auto n = DivideExacta(tabla_, n_, divisor);
-        if (!n)
+        auto deN = DivideExacta(tabla_, n, divisor);
+        if (!deN)
             return false;
-        n_ = std::move(*n);
-        d_ = std::move(*d);
+        n = std::move(*deN);
+        d = std::move(*deD);
         return true;
     }
 
@@ -285,8 +297,7 @@ private:
     };
 
     void CancelaEnteros() {
-        if (d_.size() == 1)
-            HazEntero();
+        HazEnteros();
         const double enN = DevFactorEntero(n_);
         const double enD = enN == 0 ? 0 : DevFactorEntero(d_);
         const double factor = enD == 0 ? 1 : DevMcd(enN, enD);
@@ -306,24 +317,62 @@ private:
         }
     }
 
-    // A decimal coefficient of a denominator of one term: both sides times a power of ten.
-    void HazEntero() {
-        double& coeficiente = d_[0].coeficiente;
-        if (EsEntero(coeficiente))
+    // Makes the coefficients of the denominator whole where it is one term, and those of both sides
+    // where decimals would cut one of them short.
+    void HazEnteros() {
+        if (d_.size() == 1) {
+            if (!EsEntero(d_[0].coeficiente))
+                Escala(DevEscala(d_[0].coeficiente));
             return;
-        const double escala = std::pow(10.0, DecimalesNúmero(coeficiente));
-        const double entero = std::round(coeficiente * escala);
-        constexpr double MáximoExacto = 9007199254740992.0; // 2^53
-        if (!std::isfinite(entero) || std::fabs(entero) >= MáximoExacto || entero == 0 ||
-            std::fabs(coeficiente * escala - entero) > std::fabs(entero) * 1e-13)
-            return;
-        coeficiente = entero;
-        for (Término& término : n_) {
-            término.coeficiente = CompruebaFinito(término.coeficiente * escala);
-            const double redondo = std::round(término.coeficiente);
-            if (std::fabs(redondo - término.coeficiente) <= std::fabs(redondo) * 1e-14)
-                término.coeficiente = redondo;
         }
+        double escala = 1;
+        bool cortado = false;
+        for (const Términos* const lado : {&n_, &d_})
+            for (const Término& término : *lado) {
+                cortado = cortado || !EsDecimal(término.coeficiente);
+                escala *= DevDenominador(término.coeficiente * escala);
+                constexpr double MáximaEscala = 1e6;
+                if (escala == 0 || escala > MáximaEscala)
+                    return;
+            }
+        if (cortado)
+            Escala(escala);
+    }
+
+    bool EsDecimal(double coeficiente) const {
+        constexpr double Ruido = 1e-14;
+        const double redondo = Redondea(coeficiente, tabla_.contexto.DígitosRedondeo);
+        return std::fabs(redondo - coeficiente) <= Ruido * std::fabs(coeficiente);
+    }
+
+    // The least small whole number that makes a coefficient whole, or 0.
+    static double DevDenominador(double coeficiente) {
+        constexpr double Ruido = 1e-11;
+        if (EsEntero(coeficiente))
+            return 1;
+        const auto [numerador, denominador] = DevFracciónPequeña(coeficiente);
+        const double resto = std::fabs(coeficiente * denominador - numerador);
+        return resto < Ruido * std::fabs(numerador) ? denominador : 0;
+    }
+
+    // What makes a coefficient whole: a power of ten for a decimal, the denominator of a fraction,
+    // or the inverse, which leaves 1.
+    double DevEscala(double coeficiente) const {
+        if (EsDecimal(coeficiente)) {
+            const double escala = std::pow(10.0, DecimalesNúmero(coeficiente));
+            const double entero = std::round(coeficiente * escala);
+            constexpr double MáximoExacto = 9007199254740992.0; // 2^53
+            if (entero != 0 && std::fabs(entero) < MáximoExacto)
+                return escala;
+        }
+        const double denominador = DevDenominador(coeficiente);
+        return denominador != 0 ? denominador : CompruebaFinito(1 / coeficiente);
+    }
+
+    void Escala(double escala) {
+        for (Términos* const lado : {&n_, &d_})
+            for (Término& término : *lado)
+                término.coeficiente = LimpiaEntero(CompruebaFinito(término.coeficiente * escala));
     }
 
     TablaSímbolos& tabla_;
@@ -333,19 +382,23 @@ private:
 };
 
 // One term for a quotient whose denominator is not a number.
-Términos DevTérminoCociente(TablaSímbolos& tabla, Términos numerador, Términos denominador) {
+// It is written rounded and kept as it is.
+Términos DevTérminoCociente(TablaSímbolos& tabla, Fracción redondeada, Fracción entera) {
     double coeficiente = 1;
-    if (numerador.size() == 1) {
-        coeficiente = std::exchange(numerador[0].coeficiente, 1);
-    } else if (numerador[0].coeficiente < 0) {
+    if (entera.numerador.size() == 1) {
+        coeficiente = entera.numerador[0].coeficiente;
+        redondeada.numerador[0].coeficiente = 1;
+        entera.numerador[0].coeficiente = 1;
+    } else if (redondeada.numerador[0].coeficiente < 0) {
         coeficiente = -1;
-        EscalaSuma(numerador, -1);
+        EscalaSuma(redondeada.numerador, -1);
+        EscalaSuma(entera.numerador, -1);
     }
-    std::string texto = EscribeFracción(tabla, numerador, denominador);
+    std::string texto = EscribeFracción(tabla, redondeada.numerador, redondeada.denominador);
     const IdSímbolo símbolo = tabla.DevBase({.clase = ClaseBase::Cociente,
                                              .texto = std::move(texto),
-                                             .numerador = std::move(numerador),
-                                             .denominador = std::move(denominador)});
+                                             .numerador = std::move(entera.numerador),
+                                             .denominador = std::move(entera.denominador)});
     return {{coeficiente, {{símbolo, 1}}}};
 }
 
@@ -362,8 +415,7 @@ Términos JuntaCocientes(TablaSímbolos& tabla, const Términos& suma) {
     return DevCociente(tabla, std::move(total.numerador), std::move(total.denominador));
 }
 
-// Whether a quotient with a coefficient is as it would be with the coefficient drawn into it.
-bool EstáReducido(double coeficiente, const Base& cociente) {
+bool EstáReducidoCon(double coeficiente, const Base& cociente) {
     if (std::fabs(coeficiente) == 1)
         return true;
     const double factor = DevFactorEntero(cociente.denominador);
@@ -377,7 +429,7 @@ bool EstáAsentado(const TablaSímbolos& tabla, std::span<const Factor> factores
     return std::ranges::all_of(factores, [&](const Factor& factor) {
         const Base* const cociente = DevCocienteDe(tabla, tabla.LiteralExponente(factor.símbolo));
         return cociente == nullptr ||
-               (EstáReducido(factor.exponente, *cociente) &&
+               (EstáReducidoCon(factor.exponente, *cociente) &&
                 (factores.size() == 1 || tabla.clase == ClaseDesarrollo::Simplificado));
     });
 }
@@ -438,7 +490,7 @@ Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
             término.literal = AsientaExponentes(tabla, término.literal);
         const Base* const cociente = DevCocienteDe(tabla, término.literal);
         const double absoluto = std::fabs(coeficiente);
-        if (cociente == nullptr || EstáReducido(coeficiente, *cociente)) {
+        if (cociente == nullptr || EstáReducidoCon(coeficiente, *cociente)) {
             redondeada.Añade(coeficiente, término.literal);
             continue;
         }
@@ -483,9 +535,14 @@ bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma) {
                                    [&](const Factor& f) {
                                        return DevExponenteFinal(tabla, f.exponente) == f.exponente;
                                    }) &&
-               (cociente == nullptr || EstáReducido(t.coeficiente, *cociente)) &&
+               (cociente == nullptr || EstáReducidoCon(t.coeficiente, *cociente)) &&
                EstánAsentados(tabla, t.literal);
     });
+}
+
+bool EstáReducido(const TablaSímbolos& tabla, const Término& término) {
+    const Base* const cociente = DevCocienteDe(tabla, término.literal);
+    return cociente == nullptr || EstáReducidoCon(término.coeficiente, *cociente);
 }
 
 Fracción DevFracción(TablaSímbolos& tabla, const Términos& suma) {
@@ -526,13 +583,18 @@ Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos deno
                 término.coeficiente = CompruebaFinito(término.coeficiente / divisor);
             return std::move(f.numerador);
         }
-        denominador = RedondeaSuma(tabla, f.denominador);
-        numerador = RedondeaNumerador(tabla, f.numerador);
+        Fracción redondeada{RedondeaNumerador(tabla, f.numerador),
+                            RedondeaSuma(tabla, f.denominador)};
+        const bool igual = redondeada.denominador.size() == f.denominador.size() &&
+                           redondeada.numerador.size() == f.numerador.size();
+        if (igual && !EsNúmero(redondeada.denominador))
+            return DevTérminoCociente(tabla, std::move(redondeada), std::move(f));
+        numerador = redondeada.numerador;
+        denominador = redondeada.denominador;
         constexpr int MáximasVueltas = 3;
-        const bool igual =
-            denominador.size() == f.denominador.size() && numerador.size() == f.numerador.size();
-        if (!EsNúmero(denominador) && (igual || vuelta >= MáximasVueltas))
-            return DevTérminoCociente(tabla, std::move(numerador), std::move(denominador));
+        if (vuelta >= MáximasVueltas && !EsNúmero(denominador))
+            return DevTérminoCociente(tabla, std::move(redondeada),
+                                      {std::move(numerador), std::move(denominador)});
     }
 }
 

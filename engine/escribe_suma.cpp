@@ -17,7 +17,7 @@ bool EsFracción(const TablaSímbolos& tabla, double exponente) {
     constexpr double Cerca = 1e-12;
     return tabla.clase == ClaseDesarrollo::Completo &&
            std::fabs(Redondea(exponente, tabla.contexto.DígitosRedondeo) - exponente) > Cerca &&
-           DevFracciónExponente(exponente).denominador > 1;
+           DevFracciónPequeña(exponente).denominador > 1;
 }
 
 class Escritor {
@@ -84,9 +84,9 @@ void Escritor::EscribeTérmino(double coeficiente, const Literal& literal, bool 
     const Base* const cociente = DevCocienteDe(tabla_, literal);
     if (absoluto != 1) {
         EscribeNúmero(absoluto);
-        if (cociente != nullptr && EsNúmero(cociente->numerador)) {
-            texto += '/';
-            return EscribeDenominador(cociente->denominador);
+        if (cociente != nullptr && EsNúmero(cociente->numerador)) { // 2*1/Y is 2/Y
+            texto.append(cociente->texto, 1);
+            return;
         }
         texto += '*';
     }
@@ -112,7 +112,7 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         texto += '^';
         if (!EsFracción(tabla_, primero.exponente))
             return EscribeNúmero(Redondeado(primero.exponente));
-        const FracciónExponente fracción = DevFracciónExponente(primero.exponente);
+        const FracciónPequeña fracción = DevFracciónPequeña(primero.exponente);
         texto += '(';
         EscribeNúmero(fracción.numerador);
         texto += '/';
@@ -148,7 +148,7 @@ double Escritor::DevDenominadorComún(std::span<const Factor> factores) const {
         return 1;
     double q = 1;
     for (const Factor& factor : factores) {
-        const double suyo = DevFracciónExponente(factor.exponente * q).denominador;
+        const double suyo = DevFracciónPequeña(factor.exponente * q).denominador;
         if (suyo == 0 || q * suyo > MáximoDenominadorComún)
             return 1;
         q *= suyo;

@@ -118,33 +118,39 @@ void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Li
     producto.insert(producto.end(), j, b.end());
 }
 
-FracciónExponente DevFracciónExponente(double exponente) {
+FracciónPequeña DevFracciónPequeña(double valor) {
     constexpr double Máximo = 1e4; // beyond it the digits of a Double no longer tell a fraction
     constexpr double MáximoDenominador = 1000;
     constexpr double Tolerancia = 1e-11;
-    if (!(std::fabs(exponente) < Máximo))
-        return {exponente, EsEntero(exponente) ? 1.0 : 0.0};
+    if (!(std::fabs(valor) < Máximo))
+        return {valor, EsEntero(valor) ? 1.0 : 0.0};
     // Convergents, until one is near enough.
-    FracciónExponente previo{0, 1};
-    FracciónExponente actual{1, 0};
-    double resto = exponente;
+    FracciónPequeña previo{0, 1};
+    FracciónPequeña actual{1, 0};
+    double resto = valor;
     for (;;) {
         const double parte = std::floor(resto);
-        const FracciónExponente siguiente{parte * actual.numerador + previo.numerador,
-                                          parte * actual.denominador + previo.denominador};
+        const FracciónPequeña siguiente{parte * actual.numerador + previo.numerador,
+                                        parte * actual.denominador + previo.denominador};
         previo = std::exchange(actual, siguiente);
         if (actual.denominador > MáximoDenominador)
-            return {exponente, 0};
-        if (std::fabs(exponente - actual.numerador / actual.denominador) < Tolerancia)
+            return {valor, 0};
+        if (std::fabs(valor - actual.numerador / actual.denominador) < Tolerancia)
             return actual;
         resto = 1 / (resto - parte);
     }
 }
 
+double LimpiaEntero(double valor) {
+    constexpr double Ruido = 4e-15;
+    const double entero = std::round(valor);
+    return std::fabs(valor - entero) <= Ruido * std::fabs(entero) ? entero : valor;
+}
+
 double LimpiaExponente(double exponente) {
     if (EsEntero(exponente))
         return exponente;
-    const FracciónExponente fracción = DevFracciónExponente(exponente);
+    const FracciónPequeña fracción = DevFracciónPequeña(exponente);
     if (fracción.denominador != 0)
         return fracción.numerador / fracción.denominador;
     constexpr double Escala = 1e12;
