@@ -76,11 +76,12 @@ void ResolverFactorizarFunciónRacional(Contexto& contexto, Hoja& hoja) {
     const double a = datos->primero;
     const double b = datos->segundo;
     const double h = CompruebaFinito(b - a) / Pasos;
-    const auto racional = EvalúaRacional(contexto, CompilaExpresión(datos->función));
+    auto racional = EvalúaRacional(contexto, CompilaExpresión(datos->función));
     if (!racional)
         return;
-    const std::string numerador = FactorizaPolinomio(contexto, racional->numerador, a, b, h);
-    const std::string denominador = FactorizaPolinomio(contexto, racional->denominador, a, b, h);
+    const Racional r = ConDenominadorLegible(contexto, *std::move(racional));
+    const std::string numerador = FactorizaPolinomio(contexto, r.numerador, a, b, h);
+    const std::string denominador = FactorizaPolinomio(contexto, r.denominador, a, b, h);
     hoja.texto += "\r\n\r\n'Factorización :(" + numerador + ")/(" + denominador + ')';
 }
 

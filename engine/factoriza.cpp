@@ -33,11 +33,17 @@ Polinomio SinRaícesMúltiples(Contexto& contexto, const Polinomio& p) {
     return EsUno(común) ? p : DividePolinomios(contexto, p, común).cociente;
 }
 
+// Whole coefficients: nothing of them is lost in a text.
+Polinomio QuitaDenominador(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto == nullptr ? p : DevExacto(exacto->términos, 1);
+}
+
 // The roots from left to right; never more than the degree, whatever rounding makes of the signs.
 std::vector<Solución> DevRaíces(Contexto& contexto, const Polinomio& p, double a, double b,
                                 double h) {
-    Programa programa =
-        CompilaExpresión(EscribePolinomio(contexto, SinRaícesMúltiples(contexto, p)));
+    const Polinomio simple = SinRaícesMúltiples(contexto, p);
+    Programa programa = CompilaExpresión(EscribePolinomio(contexto, QuitaDenominador(simple)));
     const double grado = DevGrado(p);
     std::vector<Solución> raíces;
     for (std::optional<double> comienzo = a;
@@ -84,7 +90,7 @@ std::string TextoCoeficientePrincipal(const Contexto& contexto, const Polinomio&
 
 std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, double a, double b,
                                double h) {
-    const Polinomio p = RedondeaPolinomio(contexto, polinomio);
+    const Polinomio p = QuitaNulos(contexto, polinomio);
     if (EsConstante(p) || !TieneExponentesNaturales(p))
         return EscribePolinomio(contexto, p);
     const std::vector<Solución> raíces = DevRaíces(contexto, p, a, b, h);

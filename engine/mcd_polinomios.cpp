@@ -153,27 +153,6 @@ std::optional<Exactos> SiExactos(const Polinomio& p, const Polinomio& q) {
     return Exactos{*a, *b};
 }
 
-// Decimals of at most `dígitos` places that the general number form writes in full.
-bool EsDecimal(const PolinomioExacto& p, int dígitos) {
-    constexpr int DígitosSignificativos = 15;
-    const Entero tope = DevPotenciaDeDiez(DígitosSignificativos);
-    return std::ranges::all_of(p.términos, [&](const TérminoPolinomio<Entero>& t) {
-        auto [escalado, sobra] =
-            Entero::Divide(t.coeficiente * DevPotenciaDeDiez(dígitos), p.denominador);
-        if (!sobra.EsCero())
-            return false;
-        if (escalado.Signo() < 0)
-            escalado.CambiaSigno();
-        while ((escalado - tope).Signo() >= 0) {
-            auto [décima, cifra] = Entero::Divide(escalado, 10);
-            if (!cifra.EsCero())
-                return false;
-            escalado = std::move(décima);
-        }
-        return true;
-    });
-}
-
 // The gcd over whole numbers with the order of the chain: the first operand is the dividend.
 class MCDExacto {
 public:
@@ -189,8 +168,7 @@ public:
         if (std::optional<Denso> último = buscador_.DevÚltimoDivisor(primitivo_)) {
             Polinomio p = DevPolinomio(*std::move(último), pareja_.bajo, pareja_.paso,
                                        DevPotenciaDeDiez(contexto_.DígitosRedondeo));
-            const auto* const exacto = std::get_if<PolinomioExacto>(&p);
-            if (exacto != nullptr && EsDecimal(*exacto, contexto_.DígitosRedondeo))
+            if (EsDeDecimales(contexto_, p))
                 return p;
         }
         return DevPrimitivo();

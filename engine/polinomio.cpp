@@ -139,6 +139,52 @@ Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p) {
     return DevExactoDeDecimales(términos);
 }
 
+bool HayNulos(const Contexto& contexto, const Polinomio& p) {
+    return std::ranges::any_of(AReal(p), [&](const TérminoPolinomio<double>& t) {
+        return Redondea(t.coeficiente, contexto.DígitosRedondeo) == 0;
+    });
+}
+
+Polinomio QuitaNulos(const Contexto& contexto, Polinomio p) {
+    const PolinomioReal real = AReal(p);
+    std::visit(
+        [&](auto& polinomio) {
+            std::size_t i = 0;
+            const auto esNulo = [&](const auto& /*término*/) {
+                return Redondea(real[i++].coeficiente, contexto.DígitosRedondeo) == 0;
+            };
+            if constexpr (std::is_same_v<decltype(polinomio), PolinomioExacto&>)
+                std::erase_if(polinomio.términos, esNulo);
+            else
+                std::erase_if(polinomio, esNulo);
+        },
+        p);
+    return p;
+}
+
+bool EsDeDecimales(const Contexto& contexto, const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    if (exacto == nullptr)
+        return false;
+    constexpr int DígitosSignificativos = 15;
+    const Entero tope = DevPotenciaDeDiez(DígitosSignificativos);
+    const Entero escala = DevPotenciaDeDiez(contexto.DígitosRedondeo);
+    return std::ranges::all_of(exacto->términos, [&](const TérminoPolinomio<Entero>& t) {
+        auto [escalado, sobra] = Entero::Divide(t.coeficiente * escala, exacto->denominador);
+        if (!sobra.EsCero())
+            return false;
+        if (escalado.Signo() < 0)
+            escalado.CambiaSigno();
+        while ((escalado - tope).Signo() >= 0) {
+            auto [décima, cifra] = Entero::Divide(escalado, 10);
+            if (!cifra.EsCero())
+                return false;
+            escalado = std::move(décima);
+        }
+        return true;
+    });
+}
+
 // --- Values
 
 Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador) {

@@ -54,6 +54,13 @@ std::string EscribePolinomio(const Contexto& contexto, std::string_view texto);
 // With the coefficients that the display form writes; the result is exact.
 Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p);
 
+// Whether the display form leaves terms out, and the polynomial without them.
+bool HayNulos(const Contexto& contexto, const Polinomio& p);
+Polinomio QuitaNulos(const Contexto& contexto, Polinomio p);
+
+// Whether the display form writes it in full: exact decimals of at most DígitosRedondeo places.
+bool EsDeDecimales(const Contexto& contexto, const Polinomio& p);
+
 // --- Values
 
 // The constant with the value of the number as the general form writes it, exact.

@@ -187,9 +187,30 @@ void ArreglaCoeficientes(Contexto& contexto, Polinomio& numerador, Polinomio& de
     if (EsConstante(denominador)) {
         numerador = DividePolinomios(contexto, numerador, denominador).cociente;
         denominador = DevConstante(1);
-    } else if (EsCero(RedondeaPolinomio(contexto, denominador))) {
-        QuitaDenominadores(numerador, denominador); // it would be written as 0
+    } else if (EsCero(QuitaNulos(contexto, denominador)) ||
+               (!EsCero(QuitaNulos(contexto, numerador)) &&
+                (HayNulos(contexto, numerador) || HayNulos(contexto, denominador)))) {
+        QuitaDenominadores(numerador, denominador); // a term of it would be written as 0
     }
+}
+
+// What numerator and denominator are divided by: the gcd as it is written, where the quotients can
+// be written in full, otherwise the one that leaves the simplest quotients.
+Racional DivideEntreFactorComún(Contexto& contexto, const Racional& r) {
+    const auto divide = [&](const Polinomio& común) -> Racional {
+        return {DividePolinomios(contexto, r.numerador, común).cociente,
+                DividePolinomios(contexto, r.denominador, común).cociente};
+    };
+    const Polinomio común = DevFactorComún(contexto, r.numerador, r.denominador);
+    if (EsUno(común))
+        return r;
+    if (!EsDeCoeficientesEnteros(r.numerador) || !EsDeCoeficientesEnteros(r.denominador)) {
+        Racional simple = divide(MCDPolinomios(contexto, r.numerador, r.denominador));
+        if (EsDeDecimales(contexto, simple.numerador) &&
+            EsDeDecimales(contexto, simple.denominador))
+            return simple;
+    }
+    return divide(común);
 }
 
 // --- Lists
@@ -307,13 +328,8 @@ Racional SimplificaRacional(Contexto& contexto, const Racional& r) {
         throw ErrorEjecución(DivisiónPorCero);
     if (EsCero(r.numerador))
         return {DevConstante(0)};
-    Racional simple = r;
+    Racional simple = DivideEntreFactorComún(contexto, r);
     auto& [numerador, denominador] = simple;
-    const Polinomio común = DevFactorComún(contexto, numerador, denominador);
-    if (!EsUno(común)) {
-        numerador = DividePolinomios(contexto, numerador, común).cociente;
-        denominador = DividePolinomios(contexto, denominador, común).cociente;
-    }
     ArreglaCoeficientes(contexto, numerador, denominador);
     if (EsCero(RedondeaPolinomio(contexto, numerador)))
         return {DevConstante(0)};
@@ -335,6 +351,13 @@ Racional DevMCMRacionales(Contexto& contexto, std::span<const Racional> funcione
 
 Racional CalculaRacional(Contexto& contexto, const Programa& programa) {
     return Ejecución(contexto, programa).Ejecuta();
+}
+
+Racional ConDenominadorLegible(const Contexto& contexto, Racional r) {
+    if (SiExacto(r.numerador) != nullptr && SiExacto(r.denominador) != nullptr &&
+        EsCero(QuitaNulos(contexto, r.denominador)))
+        QuitaDenominadores(r.numerador, r.denominador);
+    return r;
 }
 
 std::optional<Racional> EvalúaRacional(Contexto& contexto, const Programa& programa) {
