@@ -5,6 +5,7 @@
 #include "engine/escribe_suma.h"
 #include "engine/multinomio.h"
 #include "engine/numero.h"
+#include "engine/producto_empaquetado.h"
 #include "engine/semejantes.h"
 
 #include <algorithm>
@@ -41,6 +42,10 @@ bool HayReducibles(const TablaSímbolos& tabla, const Términos& suma) {
 }
 
 Términos MultiplicaSinReducir(TablaSímbolos& tabla, const Términos& a, const Términos& b) {
+    constexpr std::size_t ProductoCorto = 8;
+    if (a.size() * b.size() > ProductoCorto)
+        if (auto producto = MultiplicaEmpaquetados(tabla, a, b))
+            return *std::move(producto);
     Recolector producto(tabla.contexto);
     Literal literal;
     for (const Término& ta : a) {

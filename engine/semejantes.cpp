@@ -12,8 +12,6 @@
 namespace quiralto {
 namespace {
 
-constexpr std::size_t EntreVigilias = 4096;
-
 std::uint64_t DevHash(const ValoresDePrueba& prueba) {
     std::uint64_t hash = prueba.sinValor;
     for (const double valor : prueba.valores) {

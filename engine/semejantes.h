@@ -20,6 +20,9 @@ inline constexpr std::size_t PuntosDePrueba = 10;
 // stay well within a gigabyte.
 inline constexpr std::size_t MáximoTérminos = std::size_t{1} << 19;
 
+// The steps of a long loop between two questions to the watcher.
+inline constexpr std::size_t EntreVigilias = 4096;
+
 // Values at the ten points; a set bit in sinValor: no value there (and 0 in its place).
 struct ValoresDePrueba {
     std::array<double, PuntosDePrueba> valores{};
