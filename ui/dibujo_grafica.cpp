@@ -3,9 +3,11 @@
 #include "ui/marcas_eje.h"
 #include "ui/texto_qt.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainterPath>
+#include <QStaticText>
 
 #include <algorithm>
 #include <cmath>
@@ -94,18 +96,23 @@ void DibujaRótulo(QPainter& pintor, const Lienzo& lienzo, const QPointF& base,
                   const QString& texto) {
     const qreal g = lienzo.grosor;
     if (EsRáster(pintor)) {
+        QStaticText rótulo(texto); // laid out once
+        rótulo.setTextFormat(Qt::PlainText);
+        const QPointF esquina = base - QPointF(0, QFontMetricsF(pintor.font()).ascent());
         pintor.setPen(Papel);
         for (const QPointF& desvío :
              {QPointF(-g, -g), QPointF(0, -g), QPointF(g, -g), QPointF(-g, 0), QPointF(g, 0),
               QPointF(-g, g), QPointF(0, g), QPointF(g, g)})
-            pintor.drawText(base + desvío, texto);
+            pintor.drawStaticText(esquina + desvío, rótulo);
+        pintor.setPen(ColorTexto);
+        pintor.drawStaticText(esquina, rótulo);
     } else { // there the text is to stand once, for whoever searches or copies it
         QPainterPath contorno;
         contorno.addText(base, QFont(pintor.font(), pintor.device()), texto);
         pintor.strokePath(contorno, QPen(Papel, 2 * g, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        pintor.setPen(ColorTexto);
+        pintor.drawText(base, texto);
     }
-    pintor.setPen(ColorTexto);
-    pintor.drawText(base, texto);
 }
 
 // The axes with their marks and labels, in the device's units.
@@ -234,6 +241,13 @@ QColor DevColor(int índice) {
     default:
         return {0, 0, 0};
     }
+}
+
+QFont DevFuenteRótulos(const QFont& fuente, qreal grosor) {
+    QFont rótulos = fuente;
+    rótulos.setPixelSize(
+        std::max(1, static_cast<int>(std::lround(QFontInfo(fuente).pixelSize() * 0.9 * grosor))));
+    return rótulos;
 }
 
 // The first and the last unit of the area are the ends of the scale, so that both can be seen.

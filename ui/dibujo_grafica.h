@@ -38,6 +38,10 @@ struct Lienzo {
     double DevT(double y) const;
 };
 
+// The font of the labels beside a text in `fuente`, a little smaller, where lines are `grosor`
+// wide.
+QFont DevFuenteRótulos(const QFont& fuente, qreal grosor);
+
 // Everything but the marker, which moves without the rest: paper, grid, curves in the order of the
 // functions, axes, marks and labels.
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena);

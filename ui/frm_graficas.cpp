@@ -48,7 +48,6 @@ frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impr
                                *coordenadas_});
     CreaBarraEstado();
     CreaMenús();
-    Comienza();
     txtSalida_->setFocus();
     // The window manager's frame is to fit too.
     const QSize marco(16, 48);

@@ -38,10 +38,7 @@ QPixmap VisorFunciones::DibujaCapa() const {
     const Lienzo lienzo = DevLienzo();
     QPixmap capa(lienzo.área.size().toSize());
     QPainter pintor(&capa);
-    QFont fuente = font();
-    fuente.setPixelSize(std::max(
-        1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * 0.9 * lienzo.grosor))));
-    pintor.setFont(fuente);
+    pintor.setFont(DevFuenteRótulos(font(), lienzo.grosor));
     DibujaGráfica(pintor, lienzo, escena_);
     pintor.end();
     capa.setDevicePixelRatio(devicePixelRatioF());

@@ -31,6 +31,7 @@ class VentanaDePrueba : public testing::Test {
 protected:
     VentanaDePrueba() {
         CargaPrimos(contexto, QUIRALTO_PRIMOS);
+        formulario.Comienza();
         formulario.show();
         formulario.activateWindow();
         QApplication::setActiveWindow(&formulario);
