@@ -70,14 +70,14 @@ void CajaFórmula::inputMethodEvent(QInputMethodEvent* suceso) {
 
 void CajaFórmula::focusInEvent(QFocusEvent* suceso) {
     QLineEdit::focusInEvent(suceso);
-    selectAll();
+    SeleccionaTexto();
     entraConRatón_ = suceso->reason() == Qt::MouseFocusReason;
 }
 
 void CajaFórmula::mousePressEvent(QMouseEvent* suceso) {
     QLineEdit::mousePressEvent(suceso);
     if (std::exchange(entraConRatón_, false))
-        selectAll(); // the click has just undone it
+        SeleccionaTexto(); // the click has just undone it
 }
 
 void CajaFórmula::focusOutEvent(QFocusEvent* suceso) {

@@ -43,34 +43,43 @@ bool EsRáster(const QPainter& pintor) {
     return pintor.paintEngine()->type() == QPaintEngine::Raster;
 }
 
-template <typename Trazo>
-void TrazaCurva(QPainter& pintor, const QColor& color, qreal grosor, Trazo trazo) {
-    if (EsRáster(pintor)) {
-        pintor.setPen(QPen(color, 0));
-        TrazaConGrosor(pintor, grosor, trazo);
-    } else {
-        pintor.setPen(QPen(color, grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        trazo();
+// One function's points in the drawing scale, in its colour.
+class Curva {
+public:
+    Curva(QPainter& pintor, const Lienzo& lienzo, const std::vector<Punto>& puntos)
+        : pintor_(pintor), grosor_(lienzo.grosor) {
+        lugares_.reserve(static_cast<qsizetype>(puntos.size()));
+        for (const Punto& punto : puntos)
+            lugares_ += lienzo.DevLugar(punto.x, punto.y);
     }
-}
 
-void DibujaCurva(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena, int índice) {
-    const std::vector<Punto>& puntos = escena.puntos.at(static_cast<std::size_t>(índice));
-    if (puntos.empty())
-        return;
-    QPolygonF lugares;
-    lugares.reserve(static_cast<qsizetype>(puntos.size()));
-    for (const Punto& punto : puntos)
-        lugares += lienzo.DevLugar(punto.x, punto.y);
-    TrazaCurva(pintor, DevColor(índice), lienzo.grosor, [&] {
-        if (escena.método == MétodoDibujo::Puntos)
-            pintor.drawPoints(lugares);
-        else if (lugares.size() == 1)
-            pintor.drawPoint(lugares.front());
+    void TipoDibujo(MétodoDibujo método, const QColor& color) {
+        const auto dibuja = [&] {
+            método == MétodoDibujo::Puntos ? DibujaPuntos() : DibujaLíneas();
+        };
+        if (EsRáster(pintor_)) {
+            pintor_.setPen(QPen(color, 0));
+            TrazaConGrosor(pintor_, grosor_, dibuja);
+        } else {
+            pintor_.setPen(QPen(color, grosor_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            dibuja();
+        }
+    }
+
+private:
+    void DibujaPuntos() { pintor_.drawPoints(lugares_); }
+
+    void DibujaLíneas() {
+        if (lugares_.size() == 1)
+            pintor_.drawPoint(lugares_.front());
         else
-            pintor.drawPolyline(lugares);
-    });
-}
+            pintor_.drawPolyline(lugares_);
+    }
+
+    QPainter& pintor_;
+    qreal grosor_;
+    QPolygonF lugares_;
+};
 
 // A line across the whole area, over exactly `grosor` units.
 void DibujaVertical(QPainter& pintor, const Lienzo& lienzo, qreal x, const QColor& color) {
@@ -266,8 +275,11 @@ double Lienzo::DevT(double y) const {
 }
 
 void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        DibujaCurva(pintor, lienzo, escena, i);
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
+        const std::vector<Punto>& puntos = escena.puntos.at(static_cast<std::size_t>(i));
+        if (!puntos.empty())
+            Curva(pintor, lienzo, puntos).TipoDibujo(escena.método, DevColor(i));
+    }
 }
 
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
@@ -282,7 +294,7 @@ void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica
 }
 
 void DibujaPuntoX(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
-    const double s = DevXlógico(escena.ventana, escena.puntoX);
+    const double s = DevXlógico(escena.ventana, escena.PuntoX);
     if (!(std::fabs(s) <= MediaEscala))
         return;
     pintor.save();

@@ -3,6 +3,7 @@
 #include "engine/numero.h"
 #include "engine/sintaxis.h"
 #include "ui/dibujo_grafica.h"
+#include "ui/marcas_eje.h"
 #include "ui/texto_qt.h"
 
 #include <QFontDatabase>
@@ -116,7 +117,7 @@ void PanelFunciones::CreaFila(int índice) {
 }
 
 void PanelFunciones::ActualizaX() {
-    txtPuntoX_->setText(DevQString(TextoNúmero(vista_.DevPuntoX())));
+    txtPuntoX_->setText(DevQString(TextoEnRango(vista_.DevPuntoX(), vista_.DevAncho())));
 }
 
 void PanelFunciones::ActualizaFunciones() {
@@ -167,7 +168,7 @@ void PanelFunciones::Rechaza(int índice) {
     vista_.Activa(índice, false);
     alCambiar_();
     fila.txtfx->setFocus(Qt::OtherFocusReason);
-    fila.txtfx->selectAll();
+    fila.txtfx->SeleccionaTexto();
 }
 
 void PanelFunciones::AlEscribir(int índice) {

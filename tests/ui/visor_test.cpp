@@ -153,6 +153,10 @@ TEST_F(Visor, ElClicFijaElPuntoXYLasFlechasLoMueven) {
     visor.setFocus();
     QTest::keyClick(&visor, Qt::Key_Right);
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("5.1"));
+    PonX(0);
+    QTest::keyClick(&visor, Qt::Key_Right);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral(".1")); // not 9.99999999999996E-02
+    PonX(51);
     QTest::keyClick(&visor, Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("4.1"));
 }
