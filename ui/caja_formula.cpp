@@ -23,6 +23,7 @@ CajaFórmula::CajaFórmula(QWidget* padre, Pitido pitido)
     : QLineEdit(padre), pitido_(std::move(pitido)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setValidator(new EnMayúsculasSiempre(this));
+    connect(this, &QLineEdit::inputRejected, this, [this] { pitido_(); }); // a text cut as too long
 }
 
 void CajaFórmula::MarcaErrónea(bool errónea) {

@@ -29,7 +29,10 @@ QString DevNúmero(double valor) {
 ControlGráfica::ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Partes partes)
     : contexto_(contexto), vista_(vista), partes_(partes) {
     partes_.visor.deseos = {
-        .fijarX = [this](double x) { PonPuntoX(x); },
+        .fijarX =
+            [this](double x) { // no finer than a pixel, as it is shown under the pointer
+                PonPuntoX(Val(TextoCoordenada(x, partes_.visor.DevSeparación().x())));
+            },
         .moverX =
             [this](double pasos) {
                 const double s = DevXlógico(vista_.DevVentana(), vista_.DevPuntoX());

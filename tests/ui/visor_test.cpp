@@ -148,7 +148,10 @@ TEST_F(Visor, LosEjesPasanPorElOrigenYDesaparecenFueraDeVista) {
 
 TEST_F(Visor, ElClicFijaElPuntoXYLasFlechasLoMueven) {
     QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 50));
-    EXPECT_NEAR(DevTexto("txtPuntoX").toDouble(), 5, 0.02);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("5"));
+    QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(367, 50));
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("2.23"));
+    QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 50));
     EXPECT_EQ(Busca<QScrollBar>("hsx").value(), 50);
     visor.setFocus();
     QTest::keyClick(&visor, Qt::Key_Right);
