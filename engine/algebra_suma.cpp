@@ -16,15 +16,17 @@ namespace {
 
 Términos MultiplicaCociente(TablaSímbolos& tabla, const Término& a, const Término& b);
 
-// A factor that does not stay a power: a group to a whole power from 1 up, a number to any whole
-// power, neither with more to its exponent. Its position, or the end.
+// A factor that does not stay a power: a number or a group of one term to a whole power, a group of
+// several to one from 1 up, none with more to its exponent. Its position, or the end.
 std::size_t BuscaReducible(const TablaSímbolos& tabla, const Literal& literal) {
     for (std::size_t i = 0; i < literal.size();) {
         const std::size_t fin = FinDeBase(tabla, literal, i);
         const Factor& factor = literal[i];
         if (fin == i + 1 && tabla.EsLlano(factor.símbolo) && EsEntero(factor.exponente)) {
-            const ClaseBase clase = tabla.BaseDe(factor.símbolo).clase;
-            if (clase == ClaseBase::Número || (clase == ClaseBase::Grupo && factor.exponente > 0))
+            const Base& base = tabla.BaseDe(factor.símbolo);
+            if (base.clase == ClaseBase::Número ||
+                (base.clase == ClaseBase::Grupo &&
+                 (factor.exponente > 0 || base.numerador.size() == 1)))
                 return i;
         }
         i = fin;
@@ -136,7 +138,7 @@ Términos ElevaTérmino(TablaSímbolos& tabla, const Término& término, double 
         return {};
     Literal literal = término.literal;
     for (Factor& factor : literal)
-        factor.exponente = CompruebaFinito(factor.exponente * n);
+        factor.exponente = LimpiaExponente(CompruebaFinito(factor.exponente * n));
     return Reduce(tabla, {{coeficiente, std::move(literal)}});
 }
 
@@ -197,7 +199,8 @@ Términos ElevaAFraccionario(TablaSímbolos& tabla, const Términos& base, doubl
     if (base.size() == 1 && base[0].coeficiente == 1 && base[0].literal.size() == 1 &&
         tabla.EsLlano(base[0].literal[0].símbolo) && !EsEntero(base[0].literal[0].exponente)) {
         const Factor& factor = base[0].literal[0];
-        return Reduce(tabla, SumaSímbolo(factor.símbolo, factor.exponente * exponente));
+        return Reduce(tabla,
+                      SumaSímbolo(factor.símbolo, LimpiaExponente(factor.exponente * exponente)));
     }
     return SumaSímbolo(DevBaseDe(tabla, base), exponente);
 }
@@ -205,7 +208,8 @@ Términos ElevaAFraccionario(TablaSímbolos& tabla, const Términos& base, doubl
 Términos ElevaASuma(TablaSímbolos& tabla, const Términos& base, const Términos& exponente) {
     if (EsNúmero(base) && DevNúmero(base) == 1)
         return base;
-    return {{1, DevPotenciaDe(tabla, tabla.IdDe(DevBaseDe(tabla, base)), exponente)}};
+    const IdBase id = tabla.IdDe(DevBaseDe(tabla, base));
+    return {{1, DevPotenciaDe(tabla, id, AsientaSuma(tabla, exponente))}};
 }
 
 } // namespace

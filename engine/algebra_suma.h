@@ -34,13 +34,21 @@ struct Fracción {
 Fracción ReduceFracción(TablaSímbolos& tabla, Términos numerador, Términos denominador,
                         std::span<const Términos> divisores = {});
 
-// The same as a sum: divided out where the denominator is a number, otherwise one term that is a
+// A sum, quotients in it brought over one denominator, as a fraction.
+Fracción DevFracción(TablaSímbolos& tabla, const Términos& suma);
+
+// A fraction as a sum: divided out where the denominator is a number, otherwise one term that is a
 // number times a quotient.
 Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos denominador,
                      std::span<const Términos> divisores = {});
 
+// The sum with its exponents as each of them would be expanded by itself: quotients reduced, and in
+// a complete expansion over one denominator.
+Términos AsientaSuma(TablaSímbolos& tabla, Términos suma);
+
 // The sum as its text will read: numbers rounded to DígitosRedondeo, what rounds to 0 left out,
 // factors drawn into their quotients, like terms joined.
 Términos RedondeaSuma(TablaSímbolos& tabla, Términos suma);
+bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma);
 
 } // namespace quiralto

@@ -74,8 +74,8 @@ public:
             return {};
         if (!EsNúmero(d_)) {
             AbreCociente();
-            if (d_.size() == 1)
-                PasaAlNumerador();
+            while (d_.size() == 1 && PasaAlNumerador()) {
+            }
             CancelaPotencias();
             CancelaPorValores();
             CancelaSumas();
@@ -103,8 +103,9 @@ private:
     }
 
     // The denominator's powers that become the numerator's: negative ones, and those of a base
-    // that the numerator has too, where either exponent is more than a number.
-    void PasaAlNumerador() {
+    // that the numerator has too, where either exponent is more than a number. Whether there are
+    // any.
+    bool PasaAlNumerador() {
         const Presencias comunes = DevComunes(tabla_, n_);
         Literal queda;
         Literal pasa;
@@ -125,9 +126,10 @@ private:
             }
         }
         if (pasa.empty())
-            return;
+            return false;
         d_[0].literal = std::move(queda);
         n_ = MultiplicaSumas(tabla_, n_, {{1, std::move(pasa)}});
+        return true;
     }
 
     void CancelaPotencias() {
@@ -163,8 +165,7 @@ private:
                     continue;
                 if (!puntos)
                     puntos.emplace(tabla_);
-                const ValoresDePrueba valores = puntos->Evalúa({{enD.símbolo, 1}});
-                if (!valores.SinNinguno() && valores == puntos->Evalúa({{enN.símbolo, 1}})) {
+                if (puntos->SonElMismoFactor({{enD.símbolo, 1}}, {{enN.símbolo, 1}})) {
                     Literal literal = d_[0].literal;
                     std::erase(literal, enD);
                     Literal unido;
@@ -334,8 +335,12 @@ private:
 // One term for a quotient whose denominator is not a number.
 Términos DevTérminoCociente(TablaSímbolos& tabla, Términos numerador, Términos denominador) {
     double coeficiente = 1;
-    if (numerador.size() == 1)
+    if (numerador.size() == 1) {
         coeficiente = std::exchange(numerador[0].coeficiente, 1);
+    } else if (numerador[0].coeficiente < 0) {
+        coeficiente = -1;
+        EscalaSuma(numerador, -1);
+    }
     std::string texto = EscribeFracción(tabla, numerador, denominador);
     const IdSímbolo símbolo = tabla.DevBase({.clase = ClaseBase::Cociente,
                                              .texto = std::move(texto),
@@ -352,24 +357,8 @@ Términos DevExponente(const TablaSímbolos& tabla, std::span<const Factor> fact
     return exponente;
 }
 
-// A sum with quotients over one denominator.
 Términos JuntaCocientes(TablaSímbolos& tabla, const Términos& suma) {
-    Fracción total{{}};
-    for (const Término& término : suma) {
-        const Base* const cociente = DevCocienteDe(tabla, término.literal);
-        const Términos uno = SumaNúmero(1);
-        const Términos& denominador = cociente != nullptr ? cociente->denominador : uno;
-        const Términos numerador =
-            cociente != nullptr
-                ? MultiplicaSumas(tabla, SumaNúmero(término.coeficiente), cociente->numerador)
-                : Términos{término};
-        Recolector unido(tabla.contexto);
-        unido.Añade(MultiplicaSumas(tabla, total.numerador, denominador));
-        unido.Añade(MultiplicaSumas(tabla, numerador, total.denominador));
-        const std::array divisores = {total.denominador, denominador};
-        total = ReduceFracción(tabla, unido.Toma(),
-                               MultiplicaSumas(tabla, total.denominador, denominador), divisores);
-    }
+    Fracción total = DevFracción(tabla, suma);
     return DevCociente(tabla, std::move(total.numerador), std::move(total.denominador));
 }
 
@@ -425,25 +414,21 @@ Literal AsientaExponentes(TablaSímbolos& tabla, const Literal& literal) {
     return asentado;
 }
 
-bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma) {
-    const int dígitos = tabla.contexto.DígitosRedondeo;
-    return std::ranges::all_of(suma, [&](const Término& t) {
-        const Base* const cociente = DevCocienteDe(tabla, t.literal);
-        return (EsEntero(t.coeficiente) || Redondea(t.coeficiente, dígitos) == t.coeficiente) &&
-               std::ranges::all_of(t.literal,
-                                   [&](const Factor& f) {
-                                       return DevExponenteFinal(tabla, f.exponente) == f.exponente;
-                                   }) &&
-               (cociente == nullptr || EstáReducido(t.coeficiente, *cociente)) &&
-               EstánAsentados(tabla, t.literal);
-    });
+// A coefficient as its text will read: with as many decimals and as many digits.
+double DevCoeficienteFinal(const TablaSímbolos& tabla, double coeficiente) {
+    constexpr double MáximoEntero = 1e15;   // whole numbers below are written in full
+    constexpr double MáximoDecimales = 1e7; // below, so are 8 decimals
+    const double absoluto = std::fabs(coeficiente);
+    if (absoluto < MáximoEntero && EsEntero(coeficiente))
+        return coeficiente;
+    const double redondo = Redondea(coeficiente, tabla.contexto.DígitosRedondeo);
+    return absoluto < MáximoDecimales ? redondo : Val(TextoNúmero(redondo));
 }
 
 Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
-    const int dígitos = tabla.contexto.DígitosRedondeo;
     Recolector redondeada(tabla.contexto);
     for (Término& término : suma) {
-        const double coeficiente = Redondea(término.coeficiente, dígitos);
+        const double coeficiente = DevCoeficienteFinal(tabla, término.coeficiente);
         if (coeficiente == 0)
             continue;
         for (Factor& factor : término.literal)
@@ -464,13 +449,66 @@ Términos RedondeaTérminos(TablaSímbolos& tabla, Términos suma) {
     }
     suma = redondeada.Toma();
     for (Término& término : suma)
-        término.coeficiente = Redondea(término.coeficiente, dígitos);
+        término.coeficiente = DevCoeficienteFinal(tabla, término.coeficiente);
     std::erase_if(suma, [](const Término& t) { return t.coeficiente == 0; });
     // Rounded exponents can have become whole.
     return MultiplicaSumas(tabla, suma, SumaNúmero(1));
 }
 
+// A lone term's coefficient stays as it is, to be rounded with the sum that the quotient joins.
+Términos RedondeaNumerador(TablaSímbolos& tabla, Términos numerador) {
+    if (numerador.size() > 1)
+        return RedondeaSuma(tabla, std::move(numerador));
+    const double coeficiente = std::exchange(numerador[0].coeficiente, 1);
+    numerador = RedondeaSuma(tabla, std::move(numerador));
+    for (Término& término : numerador)
+        término.coeficiente *= coeficiente;
+    return numerador;
+}
+
 } // namespace
+
+Términos AsientaSuma(TablaSímbolos& tabla, Términos suma) {
+    for (Término& término : suma)
+        if (!EstánAsentados(tabla, término.literal))
+            término.literal = AsientaExponentes(tabla, término.literal);
+    return suma;
+}
+
+bool EstáRedondeada(const TablaSímbolos& tabla, const Términos& suma) {
+    return std::ranges::all_of(suma, [&](const Término& t) {
+        const Base* const cociente = DevCocienteDe(tabla, t.literal);
+        return DevCoeficienteFinal(tabla, t.coeficiente) == t.coeficiente &&
+               std::ranges::all_of(t.literal,
+                                   [&](const Factor& f) {
+                                       return DevExponenteFinal(tabla, f.exponente) == f.exponente;
+                                   }) &&
+               (cociente == nullptr || EstáReducido(t.coeficiente, *cociente)) &&
+               EstánAsentados(tabla, t.literal);
+    });
+}
+
+Fracción DevFracción(TablaSímbolos& tabla, const Términos& suma) {
+    if (!HayCocientes(tabla, suma))
+        return {suma};
+    Fracción total{{}};
+    for (const Término& término : suma) {
+        const Base* const cociente = DevCocienteDe(tabla, término.literal);
+        const Términos uno = SumaNúmero(1);
+        const Términos& denominador = cociente != nullptr ? cociente->denominador : uno;
+        const Términos numerador =
+            cociente != nullptr
+                ? MultiplicaSumas(tabla, SumaNúmero(término.coeficiente), cociente->numerador)
+                : Términos{término};
+        Recolector unido(tabla.contexto);
+        unido.Añade(MultiplicaSumas(tabla, total.numerador, denominador));
+        unido.Añade(MultiplicaSumas(tabla, numerador, total.denominador));
+        const std::array divisores = {total.denominador, denominador};
+        total = ReduceFracción(tabla, unido.Toma(),
+                               MultiplicaSumas(tabla, total.denominador, denominador), divisores);
+    }
+    return total;
+}
 
 Fracción ReduceFracción(TablaSímbolos& tabla, Términos numerador, Términos denominador,
                         std::span<const Términos> divisores) {
@@ -488,13 +526,12 @@ Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos deno
                 término.coeficiente = CompruebaFinito(término.coeficiente / divisor);
             return std::move(f.numerador);
         }
-        // A lone term's coefficient stays outside and is rounded with the sum that it joins.
-        const bool varios = f.numerador.size() > 1;
         denominador = RedondeaSuma(tabla, f.denominador);
-        numerador = varios ? RedondeaSuma(tabla, f.numerador) : f.numerador;
+        numerador = RedondeaNumerador(tabla, f.numerador);
         constexpr int MáximasVueltas = 3;
-        if (vuelta == MáximasVueltas ||
-            (denominador.size() == f.denominador.size() && numerador.size() == f.numerador.size()))
+        const bool igual =
+            denominador.size() == f.denominador.size() && numerador.size() == f.numerador.size();
+        if (!EsNúmero(denominador) && (igual || vuelta >= MáximasVueltas))
             return DevTérminoCociente(tabla, std::move(numerador), std::move(denominador));
     }
 }

@@ -183,11 +183,18 @@ public:
     }
 
     std::string Escribe(Valor valor) {
-        Términos numerador = RedondeaSuma(tabla_, valor.numerador.Cerrada());
-        Términos denominador = valor.denominador;
-        if (!EsNúmero(denominador))
-            denominador = RedondeaSuma(tabla_, std::move(denominador));
-        const Fracción f = ReduceFracción(tabla_, std::move(numerador), std::move(denominador));
+        Fracción f{valor.numerador.Cerrada(), valor.denominador};
+        // What is scaled to whole numbers can have more digits than a text.
+        constexpr int MáximasVueltas = 3;
+        for (int vuelta = 0; vuelta < MáximasVueltas; ++vuelta) {
+            f.numerador = RedondeaSuma(tabla_, std::move(f.numerador));
+            if (!EsNúmero(f.denominador) || DevNúmero(f.denominador) > 1)
+                f.denominador = RedondeaSuma(tabla_, std::move(f.denominador));
+            f = ReduceFracción(tabla_, std::move(f.numerador), std::move(f.denominador));
+            if (EstáRedondeada(tabla_, f.numerador) &&
+                (EsNúmero(f.denominador) || EstáRedondeada(tabla_, f.denominador)))
+                break;
+        }
         if (EsNúmero(f.denominador) && !EsEntero(DevNúmero(f.denominador)))
             return EscribeSuma(tabla_, DevCociente(tabla_, f.numerador, f.denominador));
         if (EsNúmero(f.denominador) && DevNúmero(f.denominador) == 1)
@@ -326,15 +333,32 @@ private:
     // A fraction in lowest terms, without negative whole exponents.
     Valor Reducida(Términos numerador, Términos denominador,
                    const std::vector<Términos>& divisores) {
+        Fracción f = SinNegativos(SinCocientes({std::move(numerador), std::move(denominador)}));
+        f = Cancela(f.numerador, f.denominador, divisores);
+        f = SinNegativos(std::move(f)); // cancelled variable exponents can leave some
+        return {.numerador = std::move(f.numerador), .denominador = std::move(f.denominador)};
+    }
+
+    // A power of a quotient that has become whole leaves the quotient.
+    Fracción SinCocientes(Fracción f) {
+        if (!tabla_.HayCocientes())
+            return f;
+        const Fracción n = DevFracción(tabla_, f.numerador);
+        const Fracción d = DevFracción(tabla_, f.denominador);
+        return {EsUno(d.denominador) ? n.numerador : Multiplica(tabla_, n.numerador, d.denominador),
+                EsUno(n.denominador) ? d.numerador
+                                     : Multiplica(tabla_, d.numerador, n.denominador)};
+    }
+
+    Fracción SinNegativos(Fracción f) {
         for (const bool arriba : {true, false}) {
-            const Términos inverso = DevInversoNegativos(arriba ? numerador : denominador);
+            const Términos inverso = DevInversoNegativos(arriba ? f.numerador : f.denominador);
             if (inverso.empty())
                 continue;
-            numerador = Multiplica(tabla_, numerador, inverso);
-            denominador = Multiplica(tabla_, denominador, inverso);
+            f.numerador = Multiplica(tabla_, f.numerador, inverso);
+            f.denominador = Multiplica(tabla_, f.denominador, inverso);
         }
-        Fracción f = Cancela(numerador, denominador, divisores);
-        return {.numerador = std::move(f.numerador), .denominador = std::move(f.denominador)};
+        return f;
     }
 
     // The term that makes the negative whole exponents of a sum vanish; an empty sum: there are

@@ -2,6 +2,7 @@
 
 #include "engine/numero.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <span>
@@ -9,21 +10,14 @@
 namespace quiralto {
 namespace {
 
-constexpr int MáximoDenominadorExponente = 1000;
+constexpr double MáximoDenominadorComún = 1000;
 
-// The least whole number that makes the exponent whole; 0 for none that is small.
-double DevDenominador(double exponente) {
-    constexpr double Tolerancia = 1e-11;
-    for (int q = 1; q <= MáximoDenominadorExponente; ++q)
-        if (std::fabs(exponente * q - std::round(exponente * q)) < Tolerancia * q)
-            return q;
-    return 0;
-}
-
+// An exponent that its decimals would cut short, in a complete expansion.
 bool EsFracción(const TablaSímbolos& tabla, double exponente) {
+    constexpr double Cerca = 1e-12;
     return tabla.clase == ClaseDesarrollo::Completo &&
-           std::fabs(Redondea(exponente, tabla.contexto.DígitosRedondeo) - exponente) > 1e-12 &&
-           DevDenominador(exponente) != 0;
+           std::fabs(Redondea(exponente, tabla.contexto.DígitosRedondeo) - exponente) > Cerca &&
+           DevFracciónExponente(exponente).denominador > 1;
 }
 
 class Escritor {
@@ -41,6 +35,7 @@ public:
 private:
     void EscribeNúmero(double valor);
     void EscribeExponente(std::span<const Factor> factores);
+    double DevDenominadorComún(std::span<const Factor> factores) const;
     void EscribeSumaExponente(std::span<const Factor> factores, double escala);
     void EscribeDenominador(const Términos& denominador);
     bool EsSimple(const Literal& literal) const;
@@ -117,11 +112,11 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         texto += '^';
         if (!EsFracción(tabla_, primero.exponente))
             return EscribeNúmero(Redondeado(primero.exponente));
-        const double q = DevDenominador(primero.exponente);
+        const FracciónExponente fracción = DevFracciónExponente(primero.exponente);
         texto += '(';
-        EscribeNúmero(std::round(primero.exponente * q));
+        EscribeNúmero(fracción.numerador);
         texto += '/';
-        EscribeNúmero(q);
+        EscribeNúmero(fracción.denominador);
         texto += ')';
         return;
     }
@@ -133,10 +128,7 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         texto += tabla_.TextoExponente(primero.símbolo);
         return;
     }
-    double q = 1;
-    for (const Factor& factor : factores)
-        if (q <= MáximoDenominadorExponente && EsFracción(tabla_, factor.exponente))
-            q *= DevDenominador(factor.exponente * q);
+    const double q = DevDenominadorComún(factores);
     texto += '(';
     if (q != 1 && factores.size() > 1)
         texto += '(';
@@ -146,6 +138,22 @@ void Escritor::EscribeExponente(std::span<const Factor> factores) {
         EscribeNúmero(q);
     }
     texto += ')';
+}
+
+// The least whole number that makes all exponents whole, where one of them is a fraction;
+// otherwise 1.
+double Escritor::DevDenominadorComún(std::span<const Factor> factores) const {
+    if (std::ranges::none_of(factores,
+                             [&](const Factor& f) { return EsFracción(tabla_, f.exponente); }))
+        return 1;
+    double q = 1;
+    for (const Factor& factor : factores) {
+        const double suyo = DevFracciónExponente(factor.exponente * q).denominador;
+        if (suyo == 0 || q * suyo > MáximoDenominadorComún)
+            return 1;
+        q *= suyo;
+    }
+    return q;
 }
 
 // A lone variable or function, which needs no parentheses behind "^".

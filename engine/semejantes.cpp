@@ -52,8 +52,8 @@ std::array<double, PuntosDePrueba> SorteaPuntos(Contexto& contexto) {
 
 namespace {
 
-ValoresDePrueba EvalúaSinRedondear(Contexto& contexto, const std::string& texto,
-                                   const std::array<double, PuntosDePrueba>& puntos) {
+ValoresDePrueba EvalúaTextoSinRedondear(Contexto& contexto, const std::string& texto,
+                                        const std::array<double, PuntosDePrueba>& puntos) {
     const std::int16_t errorAnterior = contexto.ErrorCódigo;
     Programa programa = CompilaExpresión(texto);
     ValoresDePrueba prueba;
@@ -73,7 +73,7 @@ ValoresDePrueba EvalúaSinRedondear(Contexto& contexto, const std::string& texto
 
 ValoresDePrueba EvalúaTexto(Contexto& contexto, const std::string& texto,
                             const std::array<double, PuntosDePrueba>& puntos) {
-    ValoresDePrueba prueba = EvalúaSinRedondear(contexto, texto, puntos);
+    ValoresDePrueba prueba = EvalúaTextoSinRedondear(contexto, texto, puntos);
     Redondea(prueba, contexto.DígitosRedondeo);
     return prueba;
 }
@@ -82,6 +82,24 @@ Puntos::Puntos(const TablaSímbolos& tabla) : tabla_(tabla), puntos_(SorteaPunto
 }
 
 ValoresDePrueba Puntos::Evalúa(const Literal& literal) {
+    ValoresDePrueba valores = EvalúaSinRedondear(literal);
+    Redondea(valores, tabla_.contexto.DígitosRedondeo);
+    return valores;
+}
+
+bool Puntos::SonElMismoFactor(const Literal& a, const Literal& b) {
+    constexpr double Precisión = 1e-9;
+    ValoresDePrueba deA = EvalúaSinRedondear(a);
+    ValoresDePrueba deB = EvalúaSinRedondear(b);
+    for (std::size_t k = 0; k < PuntosDePrueba; ++k)
+        if (std::fabs(deA.valores[k] - deB.valores[k]) > Precisión * std::fabs(deA.valores[k]))
+            return false;
+    Redondea(deA, tabla_.contexto.DígitosRedondeo);
+    Redondea(deB, tabla_.contexto.DígitosRedondeo);
+    return !deA.SinNinguno() && deA == deB;
+}
+
+ValoresDePrueba Puntos::EvalúaSinRedondear(const Literal& literal) {
     ValoresDePrueba producto;
     for (std::size_t i = 0; i < literal.size();) {
         const std::size_t fin = FinDeBase(tabla_, literal, i);
@@ -98,7 +116,6 @@ ValoresDePrueba Puntos::Evalúa(const Literal& literal) {
     for (std::size_t k = 0; k < PuntosDePrueba; ++k)
         if ((producto.sinValor >> k & 1U) != 0)
             producto.valores[k] = 0;
-    Redondea(producto, tabla_.contexto.DígitosRedondeo);
     return producto;
 }
 
@@ -114,7 +131,7 @@ ValoresDePrueba Puntos::EvalúaBase(const Base& base, IdBase id) {
     const auto conocida = bases_.find(id);
     if (conocida != bases_.end())
         return conocida->second;
-    return bases_.emplace(id, EvalúaSinRedondear(tabla_.contexto, base.texto, puntos_))
+    return bases_.emplace(id, EvalúaTextoSinRedondear(tabla_.contexto, base.texto, puntos_))
         .first->second;
 }
 
@@ -141,7 +158,7 @@ ValoresDePrueba Puntos::EvalúaPotencia(const Literal& literal, std::size_t desd
         if (conocido == exponentes_.end()) {
             const std::string deUno = texto.empty() ? "1" : texto;
             conocido =
-                exponentes_.emplace(texto, EvalúaSinRedondear(tabla_.contexto, deUno, puntos_))
+                exponentes_.emplace(texto, EvalúaTextoSinRedondear(tabla_.contexto, deUno, puntos_))
                     .first;
         }
         exponente.sinValor |= conocido->second.sinValor;

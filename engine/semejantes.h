@@ -44,7 +44,12 @@ public:
     // The values rounded to DígitosRedondeo.
     ValoresDePrueba Evalúa(const Literal& literal);
 
+    // Whether two literal parts are alike and also agree to a part in a thousand million: what is
+    // cancelled may be worth less than the rounding shows.
+    bool SonElMismoFactor(const Literal& a, const Literal& b);
+
 private:
+    ValoresDePrueba EvalúaSinRedondear(const Literal& literal);
     ValoresDePrueba EvalúaBase(const Base& base, IdBase id);
     ValoresDePrueba EvalúaPotencia(const Literal& literal, std::size_t desde, std::size_t fin);
 

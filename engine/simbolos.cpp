@@ -103,13 +103,7 @@ void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Li
     auto j = b.begin();
     while (i != a.end() && j != b.end()) {
         if (i->símbolo == j->símbolo) {
-            double exponente = i->exponente + j->exponente;
-            if (!EsEntero(exponente)) {
-                // Sums of decimals and thirds carry noise that would keep equal powers apart.
-                constexpr double Escala = 1e12;
-                if (std::fabs(exponente) < 1e3)
-                    exponente = std::round(exponente * Escala) / Escala;
-            }
+            const double exponente = LimpiaExponente(i->exponente + j->exponente);
             if (exponente != 0)
                 producto.push_back({i->símbolo, exponente});
             ++i;
@@ -122,6 +116,40 @@ void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Li
     }
     producto.insert(producto.end(), i, a.end());
     producto.insert(producto.end(), j, b.end());
+}
+
+FracciónExponente DevFracciónExponente(double exponente) {
+    constexpr double Máximo = 1e4; // beyond it the digits of a Double no longer tell a fraction
+    constexpr double MáximoDenominador = 1000;
+    constexpr double Tolerancia = 1e-11;
+    if (!(std::fabs(exponente) < Máximo))
+        return {exponente, EsEntero(exponente) ? 1.0 : 0.0};
+    // Convergents, until one is near enough.
+    FracciónExponente previo{0, 1};
+    FracciónExponente actual{1, 0};
+    double resto = exponente;
+    for (;;) {
+        const double parte = std::floor(resto);
+        const FracciónExponente siguiente{parte * actual.numerador + previo.numerador,
+                                          parte * actual.denominador + previo.denominador};
+        previo = std::exchange(actual, siguiente);
+        if (actual.denominador > MáximoDenominador)
+            return {exponente, 0};
+        if (std::fabs(exponente - actual.numerador / actual.denominador) < Tolerancia)
+            return actual;
+        resto = 1 / (resto - parte);
+    }
+}
+
+double LimpiaExponente(double exponente) {
+    if (EsEntero(exponente))
+        return exponente;
+    const FracciónExponente fracción = DevFracciónExponente(exponente);
+    if (fracción.denominador != 0)
+        return fracción.numerador / fracción.denominador;
+    constexpr double Escala = 1e12;
+    constexpr double Máximo = 1e3;
+    return std::fabs(exponente) < Máximo ? std::round(exponente * Escala) / Escala : exponente;
 }
 
 std::uint64_t DevHash(const Literal& literal) {

@@ -137,6 +137,18 @@ private:
     TablaSímbolos& tabla_;
 };
 
+// The fraction with a denominator up to 1000 that an exponent is but for the noise of rounding. The
+// denominator is positive, 1 for a whole number, and 0 where there is none.
+struct FracciónExponente {
+    double numerador;
+    double denominador;
+};
+FracciónExponente DevFracciónExponente(double exponente);
+
+// An exponent without the noise of sums and products of thirds and decimals, which would keep equal
+// powers apart.
+double LimpiaExponente(double exponente);
+
 // The product of two literal parts, into `producto` (not one of the two).
 void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Literal& b,
                          Literal& producto);
