@@ -86,12 +86,15 @@ TEST(Arranque, MuestraLaPresentaciónYDejaLaVistaInicial) {
     contexto.DígitosRedondeo = 3;
     ImpresoraDePrueba impresora;
     bool vista = false;
-    QTimer::singleShot(200, [&] {
+    QTimer mirada;
+    mirada.setSingleShot(true);
+    QObject::connect(&mirada, &QTimer::timeout, [&] {
         vista = DevPresentación() != nullptr && DevPresentación()->isVisible();
         for (const QWidget* ventana : QApplication::topLevelWidgets())
             EXPECT_TRUE(ventana == DevPresentación() || !ventana->isVisible());
         contexto.DígitosRedondeo = 5; // not yet the view of the start
     });
+    mirada.start(200);
     QElapsedTimer reloj;
     reloj.start();
     const auto formulario =
