@@ -28,7 +28,7 @@ public:
     explicit Banco(int escala)
         : escala_(escala), imagen_(1200 * escala, 800 * escala, QImage::Format_RGB32) {
         const char* const funciones[] = {"X^2-4", "5*SIN(3*X)", "X^3/20-X", "4*COS(9*X)+X/3"};
-        vista_.cantidadPuntos = 4800;
+        vista_.CantidadPuntos = 4800;
         for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
             std::string texto = funciones[i];
             vista_.DefineFunción(i, texto);

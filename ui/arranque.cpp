@@ -18,12 +18,19 @@ void Retardo(std::chrono::milliseconds tiempo) {
     bucle.exec();
 }
 
-void Arranca(Contexto& contexto, frmGráficas& formulario, std::chrono::milliseconds retardo) {
+std::unique_ptr<frmGráficas> Form_Load(Contexto& contexto, VigilanteVentana& vigilante,
+                                       Impresora& impresora, std::chrono::milliseconds retardo) {
+    using Reloj = std::chrono::steady_clock;
     frmQuiralto presentación;
     presentación.show();
     CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
-    Retardo(retardo);
-    formulario.Comienza();
+    const Reloj::time_point fin = Reloj::now() + retardo;
+    Retardo(retardo / 4); // by then it is painted
+    auto formulario = std::make_unique<frmGráficas>(contexto, vigilante, impresora);
+    const auto resto = std::chrono::ceil<std::chrono::milliseconds>(fin - Reloj::now());
+    Retardo(std::max(resto, std::chrono::milliseconds(0)));
+    formulario->Comienza();
+    return formulario;
 }
 
 } // namespace quiralto

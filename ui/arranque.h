@@ -4,6 +4,7 @@
 #include "ui/frm_graficas.h"
 
 #include <chrono>
+#include <memory>
 
 namespace quiralto {
 
@@ -13,9 +14,10 @@ inline constexpr std::chrono::milliseconds RetardoInicial = std::chrono::seconds
 // does not take the program for hung.
 void Retardo(std::chrono::milliseconds tiempo);
 
-// Runs the start-up order on the form, which is not shown yet, and returns with the splash form
-// unloaded.
-void Arranca(Contexto& contexto, frmGráficas& formulario,
-             std::chrono::milliseconds retardo = RetardoInicial);
+// Runs the start-up order and returns the main form, not shown yet, with the splash form unloaded.
+// The controls are made while the splash form stands. The arguments outlive the form.
+std::unique_ptr<frmGráficas> Form_Load(Contexto& contexto, VigilanteVentana& vigilante,
+                                       Impresora& impresora,
+                                       std::chrono::milliseconds retardo = RetardoInicial);
 
 } // namespace quiralto

@@ -23,6 +23,7 @@ CajaFórmula::CajaFórmula(QWidget* padre, Pitido pitido)
     : QLineEdit(padre), pitido_(std::move(pitido)) {
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setValidator(new EnMayúsculasSiempre(this));
+    connect(this, &QLineEdit::inputRejected, this, [this] { pitido_(); }); // a text cut as too long
 }
 
 void CajaFórmula::MarcaErrónea(bool errónea) {
@@ -70,14 +71,14 @@ void CajaFórmula::inputMethodEvent(QInputMethodEvent* suceso) {
 
 void CajaFórmula::focusInEvent(QFocusEvent* suceso) {
     QLineEdit::focusInEvent(suceso);
-    selectAll();
+    SeleccionaTexto();
     entraConRatón_ = suceso->reason() == Qt::MouseFocusReason;
 }
 
 void CajaFórmula::mousePressEvent(QMouseEvent* suceso) {
     QLineEdit::mousePressEvent(suceso);
     if (std::exchange(entraConRatón_, false))
-        selectAll(); // the click has just undone it
+        SeleccionaTexto(); // the click has just undone it
 }
 
 void CajaFórmula::focusOutEvent(QFocusEvent* suceso) {

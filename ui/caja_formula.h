@@ -17,6 +17,9 @@ public:
     void MarcaErrónea(bool errónea);
     bool EsErrónea() const { return errónea_; }
 
+    // Selects the whole text.
+    void SeleccionaTexto() { setSelection(0, static_cast<int>(text().size())); }
+
     // Called when the box loses the focus to another control of the window (not to a menu, a dialog
     // or another program).
     std::function<void()> alSalir = [] {};

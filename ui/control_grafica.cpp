@@ -16,6 +16,9 @@ namespace {
 
 constexpr int DécimasPorUnidad = 10;     // of the bar of the point X
 constexpr double PartesDelRango = 10000; // to which the window is written in words
+constexpr double PasosPorUnidad = 1000;  // likewise a unit of the axes
+
+using C = ControlGráfica;
 
 QString DevNúmero(double valor) {
     return DevQString(TextoNúmero(valor));
@@ -26,7 +29,10 @@ QString DevNúmero(double valor) {
 ControlGráfica::ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Partes partes)
     : contexto_(contexto), vista_(vista), partes_(partes) {
     partes_.visor.deseos = {
-        .fijarX = [this](double x) { PonPuntoX(x); },
+        .fijarX =
+            [this](double x) { // no finer than a pixel, as it is shown under the pointer
+                PonPuntoX(Val(TextoCoordenada(x, partes_.visor.DevSeparación().x())));
+            },
         .moverX =
             [this](double pasos) {
                 const double s = DevXlógico(vista_.DevVentana(), vista_.DevPuntoX());
@@ -36,28 +42,37 @@ ControlGráfica::ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Par
             },
         .zoom =
             [this](double x, double y, double factor) {
-                ConTrampa([&] { return vista_.ZoomEn(x, y, factor); }, [this] { ActualizaTodo(); });
+                ConTrampa([&] { return vista_.ZoomEn(x, y, factor); }, {&C::ActualizaTodo});
             },
         .desplazar =
             [this](double dx, double dy) {
-                ConTrampa([&] { return vista_.Desplaza(dx, dy); }, [this] { ActualizaTodo(); });
+                ConTrampa([&] { return vista_.Desplaza(dx, dy); }, {&C::ActualizaTodo});
             },
         .zoomGráfica = [this](int índice) { ZoomGráfica_Click(índice); },
         .señalar = [this](const std::optional<QPointF>& lugar) { Señala(lugar); },
     };
 }
 
-template <typename Cambio, typename Refresco>
-bool ControlGráfica::ConTrampa(Cambio cambia, Refresco refresca) {
+template <typename Cambio> bool ControlGráfica::ConTrampa(Cambio cambia, Pasos pasos) {
     try {
         if (!cambia())
             return false;
-        refresca();
+        Refresca(pasos);
         return true;
     } catch (const ErrorEjecución& error) {
         MensajeErrorOverflow(error.Número());
     }
     return false;
+}
+
+void ControlGráfica::Refresca(Pasos pasos) {
+    for (const auto paso : pasos)
+        (this->*paso)();
+}
+
+void ControlGráfica::ActualizaTodo() {
+    Refresca({&C::ActualizaX, &C::ActualizaUnidadEjesXY, &C::ActualizaZoom, &C::ActualizaExtremos,
+              &C::ActualizaEjes, &C::ActualizaFunciones, &C::DibujarActivadas});
 }
 
 void ControlGráfica::MensajeErrorOverflow(int número) {
@@ -74,66 +89,48 @@ void ControlGráfica::MensajeErrorOverflow(int número) {
 
 void ControlGráfica::Comienza() {
     vista_.ValoresPorDefecto();
-    ActualizaX();
-    ActualizaExtremos();
-    ActualizaFunciones();
-    ActualizaZoom();
-    contexto_.DígitosRedondeo = 8;
-    vista_.cantidadPuntos = CantidadPuntosInicial;
-    ActualizaEjes();
-    DibujarActivadas();
+    Refresca({&C::ActualizaX, &C::ActualizaExtremos, &C::ActualizaFunciones, &C::ActualizaZoom});
+    contexto_.DígitosRedondeo = DígitosRedondeoIniciales;
+    vista_.CantidadPuntos = CantidadPuntosInicial;
+    Refresca({&C::ActualizaUnidadEjesXY, &C::ActualizaEjes, &C::DibujarActivadas});
 }
 
-// The units of the axes need no refreshing: the view derives them from its window.
 void ControlGráfica::ZoomGráfica_Click(int índice) {
     ConTrampa([&] { return vista_.ZoomGráfica(índice); },
-              [this] {
-                  ActualizaExtremos();
-                  ActualizaEjes();
-                  DibujarActivadas();
-                  ActualizaZoom();
-              });
+              {&C::ActualizaUnidadEjesXY, &C::ActualizaExtremos, &C::ActualizaEjes,
+               &C::DibujarActivadas, &C::ActualizaZoom});
 }
 
 void ControlGráfica::ZoomEjeX_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjeX(índice); }, [this] { ActualizaTodo(); });
+    ConTrampa([&] { return vista_.ZoomEjeX(índice); }, {&C::ActualizaTodo});
 }
 
 void ControlGráfica::ZoomEjeY_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjeY(índice); }, [this] { ActualizaTodo(); });
+    ConTrampa([&] { return vista_.ZoomEjeY(índice); }, {&C::ActualizaTodo});
 }
 
 void ControlGráfica::ZoomEjesXY_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjesXY(índice); }, [this] { ActualizaTodo(); });
+    ConTrampa([&] { return vista_.ZoomEjesXY(índice); }, {&C::ActualizaTodo});
 }
 
 void ControlGráfica::ValoresPorDefectoEjes_Click() {
     ConTrampa([&] { return vista_.ValoresPorDefecto(); },
-              [this] {
-                  ActualizaExtremos();
-                  ActualizaEjes();
-                  DibujarActivadas();
-                  ActualizaZoom();
-              });
+              {&C::ActualizaExtremos, &C::ActualizaUnidadEjesXY, &C::ActualizaEjes,
+               &C::DibujarActivadas, &C::ActualizaZoom});
 }
 
 bool ControlGráfica::FijaExtremos(const Ventana& ventana) {
     return ConTrampa([&] { return vista_.FijaExtremos(ventana); },
-                     [this] {
-                         ActualizaExtremos();
-                         ActualizaX();
-                         ActualizaFunciones();
-                         ActualizaZoom();
-                         ActualizaEjes();
-                         DibujarActivadas();
-                     });
+                     {&C::ActualizaExtremos, &C::ActualizaUnidadEjesXY, &C::ActualizaX,
+                      &C::ActualizaFunciones, &C::ActualizaZoom, &C::ActualizaEjes,
+                      &C::DibujarActivadas});
 }
 
 void ControlGráfica::NúmeroPuntos_Click(int índice) {
     const int cantidad = 150 << índice;
-    if (cantidad == vista_.cantidadPuntos)
+    if (cantidad == vista_.CantidadPuntos)
         return;
-    vista_.cantidadPuntos = cantidad;
+    vista_.CantidadPuntos = cantidad;
     DibujarActivadas();
 }
 
@@ -146,24 +143,13 @@ void ControlGráfica::PonMétodo(MétodoDibujo método) {
 
 void ControlGráfica::hsEjeX_Change(int valor) {
     ConTrampa([&] { return vista_.DesplazaX(valor); },
-              [this] {
-                  ActualizaX();
-                  ActualizaZoom();
-                  ActualizaExtremos();
-                  ActualizaEjes();
-                  ActualizaFunciones();
-                  DibujarActivadas();
-              });
+              {&C::ActualizaX, &C::ActualizaZoom, &C::ActualizaExtremos, &C::ActualizaEjes,
+               &C::ActualizaFunciones, &C::DibujarActivadas});
 }
 
 void ControlGráfica::vsEjeY_Change(int valor) {
     ConTrampa([&] { return vista_.DesplazaY(valor); },
-              [this] {
-                  ActualizaZoom();
-                  ActualizaExtremos();
-                  ActualizaEjes();
-                  DibujarActivadas();
-              });
+              {&C::ActualizaZoom, &C::ActualizaExtremos, &C::ActualizaEjes, &C::DibujarActivadas});
 }
 
 void ControlGráfica::hsx_Change(int valor) {
@@ -172,37 +158,44 @@ void ControlGráfica::hsx_Change(int valor) {
 
 void ControlGráfica::PonPuntoX(double x) {
     ConTrampa([&] { return vista_.PonPuntoX(x); },
-              [this] {
-                  ActualizaX();
-                  ActualizaZoom();
-                  ActualizaFunciones();
-              });
+              {&C::ActualizaX, &C::ActualizaZoom, &C::ActualizaFunciones});
 }
 
 void ControlGráfica::FuncionesCambiadas() {
-    ActualizaFunciones();
-    ActualizaZoom();
-    DibujarActivadas();
+    Refresca({&C::ActualizaFunciones, &C::ActualizaZoom, &C::DibujarActivadas});
 }
 
-void ControlGráfica::ActualizaTodo() {
-    ActualizaX();
-    ActualizaZoom();
-    ActualizaExtremos();
-    ActualizaEjes();
-    ActualizaFunciones();
-    DibujarActivadas();
+void ControlGráfica::ActualizaX() {
+    partes_.panel.ActualizaX();
+}
+
+void ControlGráfica::ActualizaFunciones() {
+    partes_.panel.ActualizaFunciones();
+}
+
+void ControlGráfica::ActualizaExtremos() {
+    partes_.marco.ActualizaExtremos(vista_.DevVentana());
+}
+
+// The view derives the units from its window; shown is what a step of the axes' bars is worth.
+void ControlGráfica::ActualizaUnidadEjesXY() {
+    const auto muestra = [](QScrollBar& barra, double unidad) {
+        barra.setStatusTip(QStringLiteral("Un paso desplaza ") +
+                           DevQString(TextoCoordenada(unidad, unidad / PasosPorUnidad)));
+    };
+    muestra(partes_.hsEjeX, vista_.UnidadX());
+    muestra(partes_.vsEjeY, vista_.UnidadY());
 }
 
 // What tells where the view is: the bar and the marker of the point X, the window in words, and
 // what lies under the pointer.
 void ControlGráfica::ActualizaZoom() {
     const Ventana& v = vista_.DevVentana();
-    escena_.puntoX = vista_.DevPuntoX();
+    escena_.PuntoX = vista_.DevPuntoX();
     for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
         escena_.valores.at(static_cast<std::size_t>(i)) = vista_.DevValor(i);
     partes_.visor.MueveMarcador(escena_);
-    const double s = DevXlógico(v, escena_.puntoX);
+    const double s = DevXlógico(v, escena_.PuntoX);
     PonBarra(partes_.hsx, static_cast<int>(std::lround(std::clamp(s, -MediaEscala, MediaEscala) *
                                                        DécimasPorUnidad)));
     const double porX = (v.XMáx - v.XMín) / PartesDelRango;
@@ -231,7 +224,8 @@ void ControlGráfica::DibujarActivadas() {
 
 // The picture in words, for whoever does not see it.
 void ControlGráfica::Describe() {
-    QString texto = partes_.zoom.text() + QStringLiteral(". Punto X=") + DevNúmero(escena_.puntoX);
+    QString texto = partes_.zoom.text() + QStringLiteral(". Punto X=") +
+                    DevQString(TextoEnRango(escena_.PuntoX, vista_.DevAncho()));
     for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
         if (!vista_.EstáActiva(i))
             continue;

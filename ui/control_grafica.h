@@ -8,7 +8,11 @@
 
 #include <QScrollBar>
 
+#include <initializer_list>
+
 namespace quiralto {
+
+inline constexpr int DígitosRedondeoIniciales = 8;
 
 class ControlGráfica {
 public:
@@ -17,12 +21,17 @@ public:
         VisorFunciones& visor;
         PanelFunciones& panel;
         frmPuntosExtremos& marco;
+        QScrollBar& hsEjeX;
+        QScrollBar& vsEjeY;
         QScrollBar& hsx;
         QLabel& zoom;        // the window, in words
         QLabel& coordenadas; // under the pointer
     };
 
     ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Partes partes);
+    virtual ~ControlGráfica() = default;
+    ControlGráfica(const ControlGráfica&) = delete;
+    ControlGráfica& operator=(const ControlGráfica&) = delete;
 
     void ZoomGráfica_Click(int índice);
     void ZoomEjeX_Click(int índice);
@@ -30,6 +39,7 @@ public:
     void ZoomEjesXY_Click(int índice);
     void ValoresPorDefectoEjes_Click();
     void NúmeroPuntos_Click(int índice);
+    void RedondeoNúmeros_Click(int índice) { contexto_.DígitosRedondeo = índice; }
     void OrdenMenúPuntos_Click() { PonMétodo(MétodoDibujo::Puntos); }
     void OrdenMenúLíneas_Click() { PonMétodo(MétodoDibujo::Líneas); }
     void hsEjeX_Change(int valor);
@@ -44,24 +54,32 @@ public:
     // The scene as it is shown.
     const EscenaGráfica& DevEscena() const { return partes_.visor.DevEscena(); }
 
+protected:
+    // The refreshers: each shows a part of the view as it is now.
+    virtual void ActualizaX();
+    virtual void ActualizaFunciones();
+    virtual void ActualizaExtremos();
+    virtual void ActualizaUnidadEjesXY();
+    virtual void ActualizaZoom();
+    virtual void ActualizaEjes();
+    virtual void DibujarActivadas();
+
+    // The end of the error trap: an overflow is undone silently, any other fault is told.
+    void MensajeErrorOverflow(int número);
+
 private:
+    using Pasos = std::initializer_list<void (ControlGráfica::*)()>;
+
     void PonMétodo(MétodoDibujo método);
     void PonPuntoX(double x);
     void Señala(const std::optional<QPointF>& lugar);
-
-    void ActualizaX() { partes_.panel.ActualizaX(); }
-    void ActualizaFunciones() { partes_.panel.ActualizaFunciones(); }
-    void ActualizaExtremos() { partes_.marco.ActualizaExtremos(vista_.DevVentana()); }
-    void ActualizaZoom();
-    void ActualizaEjes();
-    void DibujarActivadas();
     void Describe();
+    void Refresca(Pasos pasos);
     void ActualizaTodo();
-    void MensajeErrorOverflow(int número);
 
     // Runs a handler under the error trap: `cambia` changes the view and returns whether it has,
-    // `refresca` shows the change. True where both went through.
-    template <typename Cambio, typename Refresco> bool ConTrampa(Cambio cambia, Refresco refresca);
+    // then the refreshers show the change, in the order given. True where all went through.
+    template <typename Cambio> bool ConTrampa(Cambio cambia, Pasos pasos);
 
     Contexto& contexto_;
     VentanaGráfica& vista_;

@@ -3,9 +3,11 @@
 #include "ui/marcas_eje.h"
 #include "ui/texto_qt.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QPaintEngine>
 #include <QPainterPath>
+#include <QStaticText>
 
 #include <algorithm>
 #include <cmath>
@@ -41,34 +43,43 @@ bool EsRáster(const QPainter& pintor) {
     return pintor.paintEngine()->type() == QPaintEngine::Raster;
 }
 
-template <typename Trazo>
-void TrazaCurva(QPainter& pintor, const QColor& color, qreal grosor, Trazo trazo) {
-    if (EsRáster(pintor)) {
-        pintor.setPen(QPen(color, 0));
-        TrazaConGrosor(pintor, grosor, trazo);
-    } else {
-        pintor.setPen(QPen(color, grosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        trazo();
+// One function's points in the drawing scale, in its colour.
+class Curva {
+public:
+    Curva(QPainter& pintor, const Lienzo& lienzo, const std::vector<Punto>& puntos)
+        : pintor_(pintor), grosor_(lienzo.grosor) {
+        lugares_.reserve(static_cast<qsizetype>(puntos.size()));
+        for (const Punto& punto : puntos)
+            lugares_ += lienzo.DevLugar(punto.x, punto.y);
     }
-}
 
-void DibujaCurva(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena, int índice) {
-    const std::vector<Punto>& puntos = escena.puntos.at(static_cast<std::size_t>(índice));
-    if (puntos.empty())
-        return;
-    QPolygonF lugares;
-    lugares.reserve(static_cast<qsizetype>(puntos.size()));
-    for (const Punto& punto : puntos)
-        lugares += lienzo.DevLugar(punto.x, punto.y);
-    TrazaCurva(pintor, DevColor(índice), lienzo.grosor, [&] {
-        if (escena.método == MétodoDibujo::Puntos)
-            pintor.drawPoints(lugares);
-        else if (lugares.size() == 1)
-            pintor.drawPoint(lugares.front());
+    void TipoDibujo(MétodoDibujo método, const QColor& color) {
+        const auto dibuja = [&] {
+            método == MétodoDibujo::Puntos ? DibujaPuntos() : DibujaLíneas();
+        };
+        if (EsRáster(pintor_)) {
+            pintor_.setPen(QPen(color, 0));
+            TrazaConGrosor(pintor_, grosor_, dibuja);
+        } else {
+            pintor_.setPen(QPen(color, grosor_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+            dibuja();
+        }
+    }
+
+private:
+    void DibujaPuntos() { pintor_.drawPoints(lugares_); }
+
+    void DibujaLíneas() {
+        if (lugares_.size() == 1)
+            pintor_.drawPoint(lugares_.front());
         else
-            pintor.drawPolyline(lugares);
-    });
-}
+            pintor_.drawPolyline(lugares_);
+    }
+
+    QPainter& pintor_;
+    qreal grosor_;
+    QPolygonF lugares_;
+};
 
 // A line across the whole area, over exactly `grosor` units.
 void DibujaVertical(QPainter& pintor, const Lienzo& lienzo, qreal x, const QColor& color) {
@@ -94,18 +105,23 @@ void DibujaRótulo(QPainter& pintor, const Lienzo& lienzo, const QPointF& base,
                   const QString& texto) {
     const qreal g = lienzo.grosor;
     if (EsRáster(pintor)) {
+        QStaticText rótulo(texto); // laid out once
+        rótulo.setTextFormat(Qt::PlainText);
+        const QPointF esquina = base - QPointF(0, QFontMetricsF(pintor.font()).ascent());
         pintor.setPen(Papel);
         for (const QPointF& desvío :
              {QPointF(-g, -g), QPointF(0, -g), QPointF(g, -g), QPointF(-g, 0), QPointF(g, 0),
               QPointF(-g, g), QPointF(0, g), QPointF(g, g)})
-            pintor.drawText(base + desvío, texto);
+            pintor.drawStaticText(esquina + desvío, rótulo);
+        pintor.setPen(ColorTexto);
+        pintor.drawStaticText(esquina, rótulo);
     } else { // there the text is to stand once, for whoever searches or copies it
         QPainterPath contorno;
         contorno.addText(base, QFont(pintor.font(), pintor.device()), texto);
         pintor.strokePath(contorno, QPen(Papel, 2 * g, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        pintor.setPen(ColorTexto);
+        pintor.drawText(base, texto);
     }
-    pintor.setPen(ColorTexto);
-    pintor.drawText(base, texto);
 }
 
 // The axes with their marks and labels, in the device's units.
@@ -236,6 +252,13 @@ QColor DevColor(int índice) {
     }
 }
 
+QFont DevFuenteRótulos(const QFont& fuente, qreal grosor) {
+    QFont rótulos = fuente;
+    rótulos.setPixelSize(
+        std::max(1, static_cast<int>(std::lround(QFontInfo(fuente).pixelSize() * 0.9 * grosor))));
+    return rótulos;
+}
+
 // The first and the last unit of the area are the ends of the scale, so that both can be seen.
 QPointF Lienzo::DevLugar(double s, double t) const {
     constexpr double Escala = 2 * MediaEscala;
@@ -252,8 +275,11 @@ double Lienzo::DevT(double y) const {
 }
 
 void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        DibujaCurva(pintor, lienzo, escena, i);
+    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
+        const std::vector<Punto>& puntos = escena.puntos.at(static_cast<std::size_t>(i));
+        if (!puntos.empty())
+            Curva(pintor, lienzo, puntos).TipoDibujo(escena.método, DevColor(i));
+    }
 }
 
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
@@ -268,7 +294,7 @@ void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica
 }
 
 void DibujaPuntoX(QPainter& pintor, const Lienzo& lienzo, const EscenaGráfica& escena) {
-    const double s = DevXlógico(escena.ventana, escena.puntoX);
+    const double s = DevXlógico(escena.ventana, escena.PuntoX);
     if (!(std::fabs(s) <= MediaEscala))
         return;
     pintor.save();

@@ -21,10 +21,10 @@ QColor DevColor(int índice);
 // has none.
 struct EscenaGráfica {
     Ventana ventana;
-    double puntoX = 0;
+    double PuntoX = 0;
     MétodoDibujo método = MétodoDibujo::Líneas;
     std::array<std::vector<Punto>, VentanaGráfica::CantidadFunciones> puntos;
-    std::array<std::optional<double>, VentanaGráfica::CantidadFunciones> valores; // at puntoX
+    std::array<std::optional<double>, VentanaGráfica::CantidadFunciones> valores; // at PuntoX
 };
 
 // Where the drawing scale lies on a device: an area in the painter's units, and how many of them
@@ -37,6 +37,10 @@ struct Lienzo {
     double DevS(double x) const;                // and back
     double DevT(double y) const;
 };
+
+// The font of the labels beside a text in `fuente`, a little smaller, where lines are `grosor`
+// wide.
+QFont DevFuenteRótulos(const QFont& fuente, qreal grosor);
 
 // Everything but the marker, which moves without the rest: paper, grid, curves in the order of the
 // functions, axes, marks and labels.

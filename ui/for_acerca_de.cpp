@@ -26,7 +26,7 @@ forAcercaDe::forAcercaDe(QWidget* padre) : QWidget(padre, Qt::Dialog) {
     columna->setSpacing(16);
     columna->addWidget(Label1);
     columna->addWidget(Command1, 0, Qt::AlignHCenter);
-    connect(Command1, &QPushButton::clicked, this, &QWidget::close);
+    connect(Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
             &QWidget::close);
     connect(new QShortcut(QKeySequence(Qt::Key_Return), this), &QShortcut::activated, this,

@@ -8,6 +8,9 @@ namespace quiralto {
 class forAcercaDe : public QWidget {
 public:
     explicit forAcercaDe(QWidget* padre);
+
+private:
+    void Command1_Click() { close(); }
 };
 
 } // namespace quiralto

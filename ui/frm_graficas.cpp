@@ -41,14 +41,21 @@ frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impr
     división->setStretchFactor(0, 1);
     división->setStretchFactor(1, 0);
     setCentralWidget(división);
+    const auto barra = [this](const QString& nombre) -> QScrollBar& {
+        return *findChild<QScrollBar*>(nombre);
+    };
     control_ = std::make_unique<ControlGráfica>(
         contexto, vista_,
-        ControlGráfica::Partes{*visor_, *panel_, *marco_,
-                               *findChild<QScrollBar*>(QStringLiteral("hsx")), *zoom_,
-                               *coordenadas_});
+        ControlGráfica::Partes{.visor = *visor_,
+                               .panel = *panel_,
+                               .marco = *marco_,
+                               .hsEjeX = barra(QStringLiteral("hsEjeX")),
+                               .vsEjeY = barra(QStringLiteral("vsEjeY")),
+                               .hsx = barra(QStringLiteral("hsx")),
+                               .zoom = *zoom_,
+                               .coordenadas = *coordenadas_});
     CreaBarraEstado();
     CreaMenús();
-    Comienza();
     txtSalida_->setFocus();
     // The window manager's frame is to fit too.
     const QSize marco(16, 48);
@@ -136,8 +143,7 @@ void frmGráficas::CreaMenús() {
     CreaMenúArchivo();
     QMenu* gráfica = menuBar()->addMenu(QStringLiteral("&Gráfica"));
     gráfica->setObjectName(QStringLiteral("MenúGráfica"));
-    CreaMenúsGráfica(*gráfica, contexto_, *control_,
-                     [this] { VerMarcoConfiguraciónPuntosExtremos(); });
+    CreaMenúsGráfica(*gráfica, *control_, [this] { FijarPuntosExtremos_Click(); });
     QMenu* hoja = menuBar()->addMenu(QStringLiteral("&Hoja"));
     hoja->setObjectName(QStringLiteral("MenúHoja"));
     CreaMenúsÓrdenes(*hoja, DevÓrdenes(),
@@ -173,15 +179,14 @@ void frmGráficas::CreaMenúAyuda() {
     QAction* contenido = ayuda->addAction(QStringLiteral("&Contenido"));
     contenido->setObjectName(QStringLiteral("Contenido"));
     contenido->setShortcut(QKeySequence(Qt::Key_F1));
-    connect(contenido, &QAction::triggered, this, [this] { Muestra(ayuda_); });
+    connect(contenido, &QAction::triggered, this, [this] { Contenido_Click(); });
     QAction* acerca = ayuda->addAction(QStringLiteral("Acerca de"));
     acerca->setObjectName(QStringLiteral("AcercaDe"));
-    connect(acerca, &QAction::triggered, this, [this] { Muestra(acercaDe_); });
+    connect(acerca, &QAction::triggered, this, [this] { AcercaDe_Click(); });
 }
 
-void frmGráficas::VerMarcoConfiguraciónPuntosExtremos() {
-    marco_->ActualizaExtremos(vista_.DevVentana()); // whatever was typed and cancelled is gone
-    marco_->Ver();
+void frmGráficas::FijarPuntosExtremos_Click() {
+    marco_->VerMarcoConfiguraciónPuntosExtremos(vista_.DevVentana());
 }
 
 // Made on first use.

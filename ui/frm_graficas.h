@@ -38,11 +38,13 @@ private:
     void CreaMenúArchivo();
     void CreaMenúAyuda();
 
-    void VerMarcoConfiguraciónPuntosExtremos();
+    void FijarPuntosExtremos_Click();
     template <typename Imprime> void ConImpresora(Imprime imprime);
     void ImprimirGráfica_Click();
     void ImprimirTexto_Click();
     void CopiarImagen_Click();
+    void Contenido_Click() { Muestra(ayuda_); }
+    void AcercaDe_Click() { Muestra(acercaDe_); }
     template <typename Formulario> void Muestra(Formulario*& formulario);
 
     Contexto& contexto_;

@@ -41,9 +41,7 @@ void frmQuiralto::paintEvent(QPaintEvent*) {
     const qreal dpr = devicePixelRatioF();
     pintor.save();
     pintor.scale(1 / dpr, 1 / dpr);
-    QFont pequeña = font();
-    pequeña.setPixelSize(static_cast<int>(std::lround(10 * dpr)));
-    pintor.setFont(pequeña);
+    pintor.setFont(DevFuenteRótulos(font(), dpr)); // the main form's, which is read but once
     const QRectF dibujo(24 * dpr, 24 * dpr, (width() - 48) * dpr, (height() - 110) * dpr);
     DibujaGráfica(pintor, {dibujo, std::max(1.0, std::round(dpr))}, DevEscenaDeMuestra());
     pintor.restore();

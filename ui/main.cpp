@@ -2,7 +2,6 @@
 
 #include "ui/aplicacion.h"
 #include "ui/arranque.h"
-#include "ui/frm_graficas.h"
 #include "ui/mensajes_ventana.h"
 
 int main(int argc, char** argv) {
@@ -12,8 +11,7 @@ int main(int argc, char** argv) {
     quiralto::VigilanteVentana vigilante;
     quiralto::Contexto contexto(mensajes, vigilante);
     quiralto::ImpresoraDelSistema impresora;
-    quiralto::frmGráficas formulario(contexto, vigilante, impresora);
-    quiralto::Arranca(contexto, formulario);
-    formulario.show();
+    const auto formulario = quiralto::Form_Load(contexto, vigilante, impresora);
+    formulario->show();
     return QApplication::exec();
 }

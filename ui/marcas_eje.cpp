@@ -69,4 +69,9 @@ std::string TextoCoordenada(double valor, double separación) {
     return TextoNúmero(Val({búfer.data(), static_cast<std::size_t>(fin.ptr - búfer.data())}));
 }
 
+std::string TextoEnRango(double valor, double ancho) {
+    constexpr double Partes = 1e12;
+    return TextoCoordenada(valor, ancho / Partes);
+}
+
 } // namespace quiralto

@@ -19,4 +19,8 @@ std::vector<Marca> DevMarcas(double mínimo, double máximo, double píxeles);
 // `separación`; for the coordinates under the pointer.
 std::string TextoCoordenada(double valor, double separación);
 
+// The value with all the digits that it can have when it was worked out from a place in a range of
+// that width, and none of its rounding errors.
+std::string TextoEnRango(double valor, double ancho);
+
 } // namespace quiralto

@@ -42,7 +42,7 @@ frmPuntosExtremos::frmPuntosExtremos(Contexto& contexto, std::function<bool(cons
     botones->addWidget(cancelar);
     rejilla->addLayout(botones, 4, 0, 1, 2);
     connect(aceptar, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    connect(cancelar, &QPushButton::clicked, this, &QWidget::hide);
+    connect(cancelar, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }
 
 void frmPuntosExtremos::ActualizaExtremos(const Ventana& ventana) {
@@ -51,7 +51,8 @@ void frmPuntosExtremos::ActualizaExtremos(const Ventana& ventana) {
         txtPuntosExtremos_.at(i)->setText(DevQString(TextoNúmero(valores.at(i))));
 }
 
-void frmPuntosExtremos::Ver() {
+void frmPuntosExtremos::VerMarcoConfiguraciónPuntosExtremos(const Ventana& ventana) {
+    ActualizaExtremos(ventana); // whatever was typed and cancelled is gone
     open();
     VuelveA(0);
 }
@@ -59,7 +60,7 @@ void frmPuntosExtremos::Ver() {
 void frmPuntosExtremos::VuelveA(int caja) {
     CajaFórmula* const elegida = txtPuntosExtremos_.at(static_cast<std::size_t>(caja));
     elegida->setFocus(Qt::OtherFocusReason);
-    elegida->selectAll();
+    elegida->SeleccionaTexto();
 }
 
 // Both pairs are checked before anything changes.
@@ -79,7 +80,7 @@ void frmPuntosExtremos::Command1_Click() {
     if (!comprueba(0, nueva.XMáx, nueva.XMín) || !comprueba(2, nueva.YMáx, nueva.YMín))
         return;
     if (fijar_(nueva))
-        hide();
+        OcultarMarcoConfiguraciónPuntosExtremos();
     else
         VuelveA(0);
 }

@@ -19,11 +19,13 @@ public:
                       QWidget* padre);
 
     void ActualizaExtremos(const Ventana& ventana);
-    // Opens the frame with the first box selected.
-    void Ver();
+    // Opens the frame on that window, with the first box selected.
+    void VerMarcoConfiguraciónPuntosExtremos(const Ventana& ventana);
 
 private:
     void Command1_Click();
+    void Command2_Click() { OcultarMarcoConfiguraciónPuntosExtremos(); }
+    void OcultarMarcoConfiguraciónPuntosExtremos() { hide(); }
     void VuelveA(int caja);
 
     Contexto& contexto_;

@@ -86,7 +86,7 @@ void CreaZooms(QMenu& menú, ControlGráfica& control, const std::function<void(
 
 } // namespace
 
-void CreaMenúsGráfica(QMenu& menú, Contexto& contexto, ControlGráfica& control,
+void CreaMenúsGráfica(QMenu& menú, ControlGráfica& control,
                       const std::function<void()>& fijarExtremos) {
     CreaZooms(menú, control, fijarExtremos);
     menú.addSeparator();
@@ -110,7 +110,8 @@ void CreaMenúsGráfica(QMenu& menú, Contexto& contexto, ControlGráfica& contr
     AñadeOpciones(AñadeMenú(menú, QStringLiteral("&Cifras redondeo en números"),
                             QStringLiteral("RedondeoNúmeros")),
                   cifras, DevNombres(QStringLiteral("RedondeoNúmeros"), cifras.size()),
-                  contexto.DígitosRedondeo, [&contexto](int i) { contexto.DígitosRedondeo = i; });
+                  DígitosRedondeoIniciales,
+                  [&control](int i) { control.RedondeoNúmeros_Click(i); });
 }
 
 void CreaBarraHerramientas(QToolBar& barra, ControlGráfica& control) {

@@ -10,7 +10,7 @@ namespace quiralto {
 
 // Puts the menus of zoom, drawing and rounding into `menú`. `fijarExtremos` opens the frame of the
 // extremes.
-void CreaMenúsGráfica(QMenu& menú, Contexto& contexto, ControlGráfica& control,
+void CreaMenúsGráfica(QMenu& menú, ControlGráfica& control,
                       const std::function<void()>& fijarExtremos);
 
 // The toolbar's eleven entries; the third, the sixth and the ninth are separators.

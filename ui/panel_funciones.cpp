@@ -3,6 +3,7 @@
 #include "engine/numero.h"
 #include "engine/sintaxis.h"
 #include "ui/dibujo_grafica.h"
+#include "ui/marcas_eje.h"
 #include "ui/texto_qt.h"
 
 #include <QFontDatabase>
@@ -32,19 +33,28 @@ QLineEdit* CreaValor(QWidget* padre, const QString& nombre, const QString& acces
     valor->setAccessibleName(accesible);
     valor->setReadOnly(true);
     valor->setFrame(false);
-    valor->setStyleSheet(QStringLiteral("background: transparent")); // it is no box to type into
+    QPalette paleta; // but for one colour the desktop's, whatever it becomes
+    paleta.setColor(QPalette::Base, Qt::transparent); // it is no box to type into
+    valor->setPalette(paleta);
     valor->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     return valor;
 }
 
 // A small square in the colour of the curve, on white as the curve is.
-QLabel* CreaMuestra(QWidget* padre, int índice) {
-    auto* muestra = new QLabel(padre);
-    muestra->setFixedSize(16, 16);
-    muestra->setStyleSheet(
-        QStringLiteral("background: %1; border: 3px solid white;").arg(DevColor(índice).name()));
-    return muestra;
-}
+class Muestra : public QWidget {
+public:
+    Muestra(QWidget* padre, int índice) : QWidget(padre), índice_(índice) { setFixedSize(16, 16); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter pintor(this);
+        pintor.fillRect(rect(), Qt::white);
+        pintor.fillRect(rect().adjusted(3, 3, -3, -3), DevColor(índice_));
+    }
+
+private:
+    int índice_;
+};
 
 } // namespace
 
@@ -92,7 +102,7 @@ void PanelFunciones::CreaFila(int índice) {
     etiquetaValor->setBuddy(fila.txtFxValor);
     etiquetaValor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     rejilla.addWidget(fila.chkfx, 2 * índice, 0);
-    rejilla.addWidget(CreaMuestra(this, índice), 2 * índice, 1);
+    rejilla.addWidget(new Muestra(this, índice), 2 * índice, 1);
     rejilla.addWidget(etiqueta, 2 * índice, 2);
     rejilla.addWidget(fila.txtfx, 2 * índice, 3);
     rejilla.addWidget(etiquetaValor, 2 * índice + 1, 2);
@@ -107,7 +117,7 @@ void PanelFunciones::CreaFila(int índice) {
 }
 
 void PanelFunciones::ActualizaX() {
-    txtPuntoX_->setText(DevQString(TextoNúmero(vista_.DevPuntoX())));
+    txtPuntoX_->setText(DevQString(TextoEnRango(vista_.DevPuntoX(), vista_.DevAncho())));
 }
 
 void PanelFunciones::ActualizaFunciones() {
@@ -158,7 +168,7 @@ void PanelFunciones::Rechaza(int índice) {
     vista_.Activa(índice, false);
     alCambiar_();
     fila.txtfx->setFocus(Qt::OtherFocusReason);
-    fila.txtfx->selectAll();
+    fila.txtfx->SeleccionaTexto();
 }
 
 void PanelFunciones::AlEscribir(int índice) {

@@ -55,7 +55,7 @@ bool VentanaGráfica::Cambia(const Vista& nueva) {
     vista_ = nueva;
     const Ventana& v = vista_.ventana;
     if (EsUtilizable(v.XMín, v.XMáx) && EsUtilizable(v.YMín, v.YMáx) &&
-        std::isfinite(vista_.puntoX))
+        std::isfinite(vista_.PuntoX))
         return true;
     RecuperaValores();
     return false;
@@ -65,7 +65,7 @@ bool VentanaGráfica::ZoomGráfica(int índice) {
     const PrimeraFunción primera = DevPrimeraFunciónDefinida();
     const Ventana& v = vista_.ventana;
     const bool hay = primera.índice < CantidadFunciones;
-    return ZoomEn(hay ? vista_.puntoX : v.XMín / 2 + v.XMáx / 2,
+    return ZoomEn(hay ? vista_.PuntoX : v.XMín / 2 + v.XMáx / 2,
                   hay ? primera.valor : v.YMín / 2 + v.YMáx / 2,
                   std::ldexp(1, DevExponente(índice)));
 }
@@ -74,7 +74,7 @@ bool VentanaGráfica::ZoomEjeX(int índice) {
     Vista nueva = vista_;
     const double factor = std::ldexp(1, DevExponente(índice));
     Escala(nueva.ventana.XMín, nueva.ventana.XMáx, factor);
-    nueva.puntoX *= factor;
+    nueva.PuntoX *= factor;
     return Cambia(nueva);
 }
 
@@ -89,7 +89,7 @@ bool VentanaGráfica::ZoomEjesXY(int índice) {
     const double factor = std::ldexp(1, DevExponente(índice));
     Escala(nueva.ventana.XMín, nueva.ventana.XMáx, factor);
     Escala(nueva.ventana.YMín, nueva.ventana.YMáx, factor);
-    nueva.puntoX *= factor;
+    nueva.PuntoX *= factor;
     return Cambia(nueva);
 }
 
@@ -98,7 +98,7 @@ bool VentanaGráfica::ValoresPorDefecto() {
 }
 
 bool VentanaGráfica::FijaExtremos(const Ventana& ventana) {
-    return Cambia({ventana, vista_.puntoX});
+    return Cambia({ventana, vista_.PuntoX});
 }
 
 bool VentanaGráfica::DesplazaX(int v) {
@@ -106,7 +106,7 @@ bool VentanaGráfica::DesplazaX(int v) {
     const double distancia = v * UnidadX();
     nueva.ventana.XMáx -= distancia;
     nueva.ventana.XMín -= distancia;
-    nueva.puntoX -= distancia;
+    nueva.PuntoX -= distancia;
     return Cambia(nueva);
 }
 
@@ -132,7 +132,7 @@ bool VentanaGráfica::ZoomEn(double x, double y, double factor) {
 
 bool VentanaGráfica::PonPuntoX(double x) {
     Vista nueva = vista_;
-    nueva.puntoX = x;
+    nueva.PuntoX = x;
     return Cambia(nueva);
 }
 
@@ -160,7 +160,7 @@ std::optional<double> VentanaGráfica::DevValor(int índice) {
     if (!EstáActiva(índice))
         return std::nullopt;
     contexto_.ErrorCódigo = SinFallo;
-    const double valor = EvalúaPrograma(contexto_, *Función(índice).programa, vista_.puntoX);
+    const double valor = EvalúaPrograma(contexto_, *Función(índice).programa, vista_.PuntoX);
     if (std::exchange(contexto_.ErrorCódigo, SinFallo) != SinFallo)
         return std::nullopt;
     return valor;
@@ -175,7 +175,7 @@ VentanaGráfica::PrimeraFunción VentanaGráfica::DevPrimeraFunciónDefinida() {
 
 std::vector<Punto> VentanaGráfica::CargaPuntos(int índice) const {
     return quiralto::CargaPuntos(contexto_, *Función(índice).programa, vista_.ventana,
-                                 cantidadPuntos);
+                                 CantidadPuntos);
 }
 
 } // namespace quiralto

@@ -24,7 +24,8 @@ public:
     explicit VentanaGráfica(Contexto& contexto) : contexto_(contexto) {}
 
     const Ventana& DevVentana() const { return vista_.ventana; }
-    double DevPuntoX() const { return vista_.puntoX; }
+    double DevPuntoX() const { return vista_.PuntoX; }
+    double DevAncho() const { return vista_.ventana.XMáx - vista_.ventana.XMín; }
     // One twentieth of each range.
     double UnidadX() const;
     double UnidadY() const;
@@ -76,13 +77,13 @@ public:
     // Of an active function.
     std::vector<Punto> CargaPuntos(int índice) const;
 
-    int cantidadPuntos = CantidadPuntosInicial;
+    int CantidadPuntos = CantidadPuntosInicial;
     MétodoDibujo método = MétodoDibujo::Líneas;
 
 private:
     struct Vista {
         Ventana ventana;
-        double puntoX = 0;
+        double PuntoX = 0;
     };
     struct FunciónGráfica {
         std::string texto; // as Sintaxis left it

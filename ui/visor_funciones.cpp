@@ -1,13 +1,24 @@
 #include "ui/visor_funciones.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QMouseEvent>
 
 #include <cmath>
 
 namespace quiralto {
+namespace {
+
+// Assistive technology takes the picture for a chart, not for one more box of controls.
+QAccessibleInterface* DevInterfazAccesible(const QString&, QObject* objeto) {
+    auto* visor = dynamic_cast<VisorFunciones*>(objeto);
+    return visor == nullptr ? nullptr : new QAccessibleWidget(visor, QAccessible::Chart);
+}
+
+} // namespace
 
 VisorFunciones::VisorFunciones(QWidget* padre) : QWidget(padre) {
+    QAccessible::installFactory(DevInterfazAccesible); // once, however often it is asked for
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
@@ -23,7 +34,7 @@ void VisorFunciones::Muestra(EscenaGráfica escena) {
 }
 
 void VisorFunciones::MueveMarcador(const EscenaGráfica& escena) {
-    escena_.puntoX = escena.puntoX;
+    escena_.PuntoX = escena.PuntoX;
     escena_.valores = escena.valores;
     update();
 }
@@ -38,10 +49,7 @@ QPixmap VisorFunciones::DibujaCapa() const {
     const Lienzo lienzo = DevLienzo();
     QPixmap capa(lienzo.área.size().toSize());
     QPainter pintor(&capa);
-    QFont fuente = font();
-    fuente.setPixelSize(std::max(
-        1, static_cast<int>(std::lround(QFontInfo(font()).pixelSize() * 0.9 * lienzo.grosor))));
-    pintor.setFont(fuente);
+    pintor.setFont(DevFuenteRótulos(font(), lienzo.grosor));
     DibujaGráfica(pintor, lienzo, escena_);
     pintor.end();
     capa.setDevicePixelRatio(devicePixelRatioF());

@@ -72,27 +72,41 @@ TEST_F(Formularios, SalirCierraTodosLosFormularios) {
     EXPECT_FALSE(formulario.isVisible());
 }
 
+QWidget* DevPresentación() {
+    for (QWidget* ventana : QApplication::topLevelWidgets())
+        if (ventana->objectName() == QStringLiteral("frmQuiralto"))
+            return ventana;
+    return nullptr;
+}
+
 TEST(Arranque, MuestraLaPresentaciónYDejaLaVistaInicial) {
     MensajesGrabados grabados;
     VigilanteVentana vigilante;
     Contexto contexto(grabados, vigilante);
     contexto.DígitosRedondeo = 3;
     ImpresoraDePrueba impresora;
-    frmGráficas formulario(contexto, vigilante, impresora);
     bool vista = false;
-    QTimer::singleShot(100, [&] {
+    QTimer mirada;
+    mirada.setSingleShot(true);
+    QObject::connect(&mirada, &QTimer::timeout, [&] {
+        vista = DevPresentación() != nullptr && DevPresentación()->isVisible();
         for (const QWidget* ventana : QApplication::topLevelWidgets())
-            vista = vista || (ventana->objectName() == QStringLiteral("frmQuiralto") &&
-                              ventana->isVisible());
-        EXPECT_FALSE(formulario.isVisible());
+            EXPECT_TRUE(ventana == DevPresentación() || !ventana->isVisible());
+        contexto.DígitosRedondeo = 5; // not yet the view of the start
     });
+    mirada.start(200);
     QElapsedTimer reloj;
     reloj.start();
-    Arranca(contexto, formulario, std::chrono::milliseconds(300));
+    const auto formulario =
+        Form_Load(contexto, vigilante, impresora, std::chrono::milliseconds(300));
     EXPECT_GE(reloj.elapsed(), 300);
     EXPECT_TRUE(vista);
-    for (const QWidget* ventana : QApplication::topLevelWidgets())
-        EXPECT_NE(ventana->objectName(), QStringLiteral("frmQuiralto"));
+    EXPECT_EQ(DevPresentación(), nullptr);
+    EXPECT_FALSE(formulario->isVisible());
+    EXPECT_EQ(formulario->findChild<QLineEdit*>(QStringLiteral("txtPuntosExtremos_0"))->text(),
+              QStringLiteral("10"));
+    EXPECT_EQ(formulario->findChild<QLineEdit*>(QStringLiteral("txtPuntoX"))->text(),
+              QStringLiteral("0"));
     EXPECT_EQ(contexto.DígitosRedondeo, 8);
     EXPECT_EQ(RetardoInicial, std::chrono::seconds(2));
 }

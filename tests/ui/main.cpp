@@ -1,5 +1,5 @@
-// The tests of the window: on the offscreen platform, with the application prepared as the program
-// prepares it.
+// The tests of the window: on the offscreen platform, unless they are to have a screen, with the
+// application prepared as the program prepares it.
 
 #include "tests/ui/dialogos.h"
 #include "ui/aplicacion.h"
@@ -7,7 +7,8 @@
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QUIRALTO_CON_PANTALLA"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication aplicación(argc, argv);
     quiralto::PreparaAplicación(aplicación);
     testing::InitGoogleTest(&argc, argv);

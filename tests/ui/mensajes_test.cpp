@@ -12,14 +12,14 @@ namespace {
 
 TEST(MensajesVentana, MuestraElTextoConSuIconoTítuloYAceptar) {
     MensajesVentana mensajes;
-    for (const auto& [icono, esperado] : {std::pair{Icono::Exclamación, QMessageBox::Warning},
-                                          {Icono::Crítico, QMessageBox::Critical},
-                                          {Icono::Ninguno, QMessageBox::NoIcon}}) {
+    for (const auto& caso : {std::pair{Icono::Exclamación, QMessageBox::Warning},
+                             {Icono::Crítico, QMessageBox::Critical},
+                             {Icono::Ninguno, QMessageBox::NoIcon}}) {
         const int vistos =
-            ConDiálogos([&] { mensajes.Muestra(icono, "a <b>ñ</b>\r\nc&d "); },
+            ConDiálogos([&] { mensajes.Muestra(caso.first, "a <b>ñ</b>\r\nc&d "); },
                         [&](QWidget& diálogo) {
                             auto& caja = dynamic_cast<QMessageBox&>(diálogo);
-                            EXPECT_EQ(caja.icon(), esperado);
+                            EXPECT_EQ(caja.icon(), caso.second);
                             EXPECT_EQ(caja.text(), QStringLiteral("a <b>ñ</b>\nc&d "));
                             EXPECT_EQ(caja.textFormat(), Qt::PlainText);
                             EXPECT_EQ(caja.windowTitle(), QStringLiteral("Quiralto"));

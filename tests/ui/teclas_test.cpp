@@ -1,6 +1,7 @@
 // What the worksheet makes of keys, dead keys, pasted and dropped text.
 
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/caja_formula.h"
 #include "ui/teclas.h"
 
 #include <QClipboard>
@@ -124,6 +125,18 @@ TEST_F(Teclas, LoSoltadoSeHaceMayúsculas) {
     QDropEvent suceso(QPointF(5, 5), Qt::CopyAction, &datos, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(caja.viewport(), &suceso);
     EXPECT_EQ(caja.toPlainText(), QStringLiteral("X+E"));
+}
+
+TEST_F(Teclas, UnaFórmulaQueNoCabeSeCortaConPitido) {
+    CajaFórmula fórmula(nullptr, [this] { ++pitidos; });
+    const int cabe = fórmula.maxLength();
+    QApplication::clipboard()->setText(QString(cabe, u'1'));
+    fórmula.paste();
+    EXPECT_EQ(pitidos, 0);
+    QApplication::clipboard()->setText(QStringLiteral("+1"));
+    fórmula.paste();
+    EXPECT_EQ(fórmula.text().size(), cabe);
+    EXPECT_EQ(pitidos, 1);
 }
 
 TEST_F(Teclas, LaHojaSeLeeConCrLfYTalComoEstá) {

@@ -31,6 +31,7 @@ class VentanaDePrueba : public testing::Test {
 protected:
     VentanaDePrueba() {
         CargaPrimos(contexto, QUIRALTO_PRIMOS);
+        formulario.Comienza();
         formulario.show();
         formulario.activateWindow();
         QApplication::setActiveWindow(&formulario);
@@ -61,6 +62,7 @@ protected:
     // The extremes as their boxes show them: right, left, upper, lower.
     std::vector<std::string> DevExtremos() {
         std::vector<std::string> extremos;
+        extremos.reserve(4);
         for (int i = 0; i < 4; ++i)
             extremos.push_back(
                 DevTexto(("txtPuntosExtremos_" + std::to_string(i)).c_str()).toStdString());

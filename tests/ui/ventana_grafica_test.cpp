@@ -38,7 +38,7 @@ protected:
 TEST_F(VistaGráfica, EmpiezaDe10EnDiezYCon300Puntos) {
     EXPECT_EQ(vista.DevVentana(), DevCuadrado(10));
     EXPECT_EQ(vista.DevPuntoX(), 0);
-    EXPECT_EQ(vista.cantidadPuntos, 300);
+    EXPECT_EQ(vista.CantidadPuntos, 300);
     EXPECT_EQ(vista.UnidadX(), 1);
     EXPECT_EQ(vista.UnidadY(), 1);
     EXPECT_EQ(DevXlógico(vista.DevVentana(), -10), -10);
@@ -140,7 +140,7 @@ void CompruebaUtilizable(VentanaGráfica& vista) {
     ASSERT_LT(v.XMín, v.XMáx);
     ASSERT_LT(v.YMín, v.YMáx);
     for (const int puntos : {150, 4800}) {
-        vista.cantidadPuntos = puntos;
+        vista.CantidadPuntos = puntos;
         const std::size_t n = vista.CargaPuntos(0).size();
         ASSERT_GT(n, 100U) << v;
         ASSERT_LT(n, 10000U) << v;
@@ -216,7 +216,7 @@ TEST_F(VistaGráfica, UnPuntoSinValorNoDejaFallo) {
 TEST_F(VistaGráfica, MuestreaConLosPuntosPedidos) {
     Define(0, "X^2");
     Define(1, "SQR(X)");
-    vista.cantidadPuntos = 4800;
+    vista.CantidadPuntos = 4800;
     const std::vector<Punto> parábola = vista.CargaPuntos(0);
     EXPECT_NEAR(static_cast<double>(parábola.size()), 4801, 1);
     for (const Punto& punto : parábola)

@@ -148,11 +148,18 @@ TEST_F(Visor, LosEjesPasanPorElOrigenYDesaparecenFueraDeVista) {
 
 TEST_F(Visor, ElClicFijaElPuntoXYLasFlechasLoMueven) {
     QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 50));
-    EXPECT_NEAR(DevTexto("txtPuntoX").toDouble(), 5, 0.02);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("5"));
+    QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(367, 50));
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("2.23"));
+    QTest::mouseClick(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 50));
     EXPECT_EQ(Busca<QScrollBar>("hsx").value(), 50);
     visor.setFocus();
     QTest::keyClick(&visor, Qt::Key_Right);
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("5.1"));
+    PonX(0);
+    QTest::keyClick(&visor, Qt::Key_Right);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral(".1")); // not 9.99999999999996E-02
+    PonX(51);
     QTest::keyClick(&visor, Qt::Key_Left, Qt::ShiftModifier);
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("4.1"));
 }
