@@ -54,11 +54,11 @@ Términos MultiplicaSinReducir(TablaSímbolos& tabla, const Términos& a, const 
             const bool cocienteB =
                 tabla.HayCocientes() && DevCocienteDe(tabla, tb.literal) != nullptr;
             const double coeficiente = ta.coeficiente * tb.coeficiente;
-            if (cocienteA && tb.literal.empty() && EstáReducido(tabla, {coeficiente, ta.literal})) {
+            if (cocienteA && tb.literal.empty() && EstáReducido(tabla, coeficiente, ta.literal)) {
                 producto.Añade(coeficiente, ta.literal);
                 continue;
             }
-            if (cocienteB && ta.literal.empty() && EstáReducido(tabla, {coeficiente, tb.literal})) {
+            if (cocienteB && ta.literal.empty() && EstáReducido(tabla, coeficiente, tb.literal)) {
                 producto.Añade(coeficiente, tb.literal);
                 continue;
             }

@@ -43,7 +43,12 @@ Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos deno
                      std::span<const Términos> divisores = {});
 
 // Whether a term, if it is a quotient, is as it would be with the coefficient drawn into it.
-bool EstáReducido(const TablaSímbolos& tabla, const Término& término);
+bool EstáReducido(const TablaSímbolos& tabla, double coeficiente, const Literal& literal);
+
+bool HayCocientes(const TablaSímbolos& tabla, const Términos& suma);
+
+// Fault: run-time error 6.
+void EscalaSuma(Términos& suma, double factor);
 
 // The sum with its exponents as each of them would be expanded by itself: quotients reduced, and in
 // a complete expansion over one denominator.

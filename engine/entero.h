@@ -1,19 +1,17 @@
 // Whole numbers of any size, for the algebra that must not lose a digit. A number that fits 63 bits
 // is held in place and its arithmetic is that of the processor; a larger one has its magnitude in
-// words of 64 bits. Multiplication and division are the schoolbook methods (Knuth, The Art of
-// Computer Programming, vol. 2, 4.3.1), which the sizes that the engine lets grow do not outgrow.
+// words (magnitud.h).
 #pragma once
+
+#include "engine/magnitud.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace quiralto {
 
 class Entero {
 public:
-    using Palabra = std::uint64_t;
-
     Entero(std::int64_t valor = 0); // NOLINT: a number stands for itself
 
     // A finite Double without a fractional part.
@@ -47,11 +45,11 @@ public:
 
 private:
     class Vista;
-    static Entero DesdeMagnitud(std::vector<Palabra> magnitud, bool negativo);
+    static Entero DesdeMagnitud(Magnitud magnitud, bool negativo);
     void SumaConSigno(const Vista& otro, bool negativo);
 
-    std::int64_t pequeño_ = 0;    // the number; 1 or -1 for the sign of a large one
-    std::vector<Palabra> grande_; // the magnitude where it needs more than 63 bits, lowest first
+    std::int64_t pequeño_ = 0; // the number; 1 or -1 for the sign of a large one
+    Magnitud grande_;          // the magnitude where it needs more than 63 bits, lowest first
 };
 
 struct Entero::División {

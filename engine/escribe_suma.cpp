@@ -39,7 +39,9 @@ private:
     void EscribeSumaExponente(std::span<const Factor> factores, double escala);
     void EscribeDenominador(const Términos& denominador);
     bool EsSimple(const Literal& literal) const;
-    double Redondeado(double coeficiente) const { return Redondea(coeficiente, dígitos_); }
+    double Redondeado(double coeficiente) const {
+        return LimpiaEntero(Redondea(coeficiente, dígitos_)); // whose last bit may be off
+    }
 
     const TablaSímbolos& tabla_;
     int dígitos_;

@@ -194,8 +194,24 @@ void ArreglaCoeficientes(Contexto& contexto, Polinomio& numerador, Polinomio& de
     }
 }
 
-// What numerator and denominator are divided by: the gcd as it is written, where the quotients can
-// be written in full, otherwise the one that leaves the simplest quotients.
+// The common factor with the leading coefficient 1.
+Polinomio DevMónico(const Polinomio& común) {
+    const PolinomioExacto* const exacto = SiExacto(común);
+    return exacto == nullptr ? común
+                             : DevExacto(exacto->términos, exacto->términos.front().coeficiente);
+}
+
+// To divide by where not all coefficients are whole: the gcd as it is written, unless that was
+// scaled to whole coefficients.
+Polinomio DevDivisorComún(Contexto& contexto, const Polinomio& p, const Polinomio& q,
+                          const Polinomio& común) {
+    Polinomio último = MCDPolinomios(contexto, p, q);
+    const bool escalado = EscribePolinomio(contexto, último) == EscribePolinomio(contexto, común);
+    return escalado ? DevMónico(común) : último;
+}
+
+// Without the common factor; where not all coefficients are whole, divided by the gcd as it is
+// written if that leaves quotients that can be written in full.
 Racional DivideEntreFactorComún(Contexto& contexto, const Racional& r) {
     const auto divide = [&](const Polinomio& común) -> Racional {
         return {DividePolinomios(contexto, r.numerador, común).cociente,
@@ -204,28 +220,24 @@ Racional DivideEntreFactorComún(Contexto& contexto, const Racional& r) {
     const Polinomio común = DevFactorComún(contexto, r.numerador, r.denominador);
     if (EsUno(común))
         return r;
-    if (!EsDeCoeficientesEnteros(r.numerador) || !EsDeCoeficientesEnteros(r.denominador)) {
-        Racional simple = divide(MCDPolinomios(contexto, r.numerador, r.denominador));
-        if (EsDeDecimales(contexto, simple.numerador) &&
-            EsDeDecimales(contexto, simple.denominador))
-            return simple;
-    }
-    return divide(común);
+    if (EsDeCoeficientesEnteros(r.numerador) && EsDeCoeficientesEnteros(r.denominador))
+        return divide(común);
+    Racional simple = divide(DevDivisorComún(contexto, r.numerador, r.denominador, común));
+    if (EsDeDecimales(contexto, simple.numerador) && EsDeDecimales(contexto, simple.denominador))
+        return simple;
+    return divide(DevMónico(común));
 }
 
 // --- Lists
 
-// The common factor times the greatest number that leaves the coefficients of both whole, or as
-// they were where they are not; so that the lcm of a function with itself is that function.
+// The common factor so that the lcm of a function with itself is that function: with the greatest
+// number that divides all coefficients, where they are whole.
 Polinomio DevFactorComúnConContenido(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
     Polinomio común = DevFactorComún(contexto, p, q);
-    const auto* const a = std::get_if<PolinomioExacto>(&p);
-    const auto* const b = std::get_if<PolinomioExacto>(&q);
-    if (a == nullptr || b == nullptr)
-        return común;
-    Entero contenido = DevMCD(DevContenido(*a) * b->denominador, DevContenido(*b) * a->denominador);
-    return Por(contexto, común,
-               DevExacto({{0, std::move(contenido)}}, a->denominador * b->denominador));
+    if (!EsDeCoeficientesEnteros(p) || !EsDeCoeficientesEnteros(q))
+        return EsUno(común) ? común : DevDivisorComún(contexto, p, q, común);
+    Entero contenido = DevMCD(DevContenido(*SiExacto(p)), DevContenido(*SiExacto(q)));
+    return Por(contexto, común, DevExacto({{0, std::move(contenido)}}, 1));
 }
 
 Polinomio MCM(Contexto& contexto, const Polinomio& p, const Polinomio& q) {

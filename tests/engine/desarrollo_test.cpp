@@ -121,6 +121,25 @@ TEST(Desarrollo, CalculaOConservaLasPotencias) {
         Comprueba(caso);
 }
 
+// With many digits a third must not pass for a decimal, nor what is nearly 1 for another number.
+TEST(Desarrollo, NoConfundeLosTerciosConDecimales) {
+    const struct {
+        const char* texto;
+        const char* simplificado;
+    } casos[] = {
+        {"X/3+X/3+X/3", "X"}, {"1/(X/3)", "3/X"},     {"1/(X/27)", "27/X"},
+        {"1/7^-2", "49"},     {"X^2/(X/49)", "49*X"}, {"1/(X/3+1/7)", "21/(7*X+3)"},
+    };
+    for (const int dígitos : {8, 11, 12, 14, 15})
+        for (const auto& caso : casos) {
+            Banco banco;
+            banco.contexto.DígitosRedondeo = dígitos;
+            EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, caso.texto),
+                      caso.simplificado)
+                << caso.texto << ", " << dígitos;
+        }
+}
+
 TEST(Desarrollo, OrdenaLasLetrasPorElAlfabeto) {
     const Caso casos[] = {
         {"(A+B)^2", "A^2+2*A*B+B^2", "A^2+2*A*B+B^2"},
