@@ -11,6 +11,7 @@
 #include "ui/mensajes_ventana.h"
 
 #include <QProcess>
+#include <QScreen>
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -20,8 +21,6 @@ namespace quiralto {
 namespace {
 
 using Reloj = std::chrono::steady_clock; // one for all processes
-
-constexpr QSize Tamaño(1240, 780);
 
 class VeElPintado : public QObject {
 public:
@@ -37,7 +36,6 @@ public:
 void MuestraYMide(QWidget& ventana, Reloj::rep comienzo) {
     VeElPintado vigía;
     ventana.installEventFilter(&vigía);
-    ventana.resize(Tamaño);
     ventana.show();
     while (!vigía.pintado) // its children are painted with it, before the loop goes on
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -48,6 +46,8 @@ void MuestraYMide(QWidget& ventana, Reloj::rep comienzo) {
 void AbreVacía(int argc, char** argv, Reloj::rep comienzo) {
     const QApplication aplicación(argc, argv);
     QWidget ventana;
+    // as large as the program's
+    ventana.resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     MuestraYMide(ventana, comienzo);
 }
 

@@ -14,6 +14,8 @@ struct Ventana {
     double XMín = -10;
     double YMáx = 10;
     double YMín = -10;
+
+    bool operator==(const Ventana&) const = default;
 };
 
 inline constexpr int CantidadPuntosInicial = 300;
@@ -32,6 +34,8 @@ double DevXfísico(const Ventana& ventana, double s);
 struct Punto {
     float x;
     float y;
+
+    bool operator==(const Punto&) const = default;
 };
 
 // Samples the program from XMín to XMáx in cantidadPuntos (1 to MáximoCantidadPuntos) steps that

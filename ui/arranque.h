@@ -12,7 +12,7 @@ inline constexpr std::chrono::milliseconds RetardoInicial = std::chrono::seconds
 
 // Waits, and handles events meanwhile, so that the splash form is painted and the window system
 // does not take the program for hung.
-void Retardo(std::chrono::milliseconds tiempo);
+void Retardo(std::chrono::nanoseconds tiempo);
 
 // Runs the start-up order and returns the main form, not shown yet, with the splash form unloaded.
 // The controls are made while the splash form stands. The arguments outlive the form.

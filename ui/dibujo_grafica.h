@@ -25,6 +25,8 @@ struct EscenaGráfica {
     MétodoDibujo método = MétodoDibujo::Líneas;
     std::array<std::vector<Punto>, VentanaGráfica::CantidadFunciones> puntos;
     std::array<std::optional<double>, VentanaGráfica::CantidadFunciones> valores; // at PuntoX
+
+    bool operator==(const EscenaGráfica&) const = default;
 };
 
 // Where the drawing scale lies on a device: an area in the painter's units, and how many of them

@@ -17,22 +17,33 @@ public:
         pintor->setRenderHint(QPainter::Antialiasing);
         pintor->translate(lugar.topLeft());
         pintor->scale(lugar.width() / 24.0, lugar.height() / 24.0);
-        const auto grupo = modo == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const QColor color = QApplication::palette().color(grupo, QPalette::ButtonText);
-        pintor->setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        pintor->setPen(QPen(DevColor(modo), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         Dibuja(*pintor);
         pintor->restore();
     }
     QPixmap pixmap(const QSize& tamaño, QIcon::Mode modo, QIcon::State estado) override {
-        QPixmap imagen(tamaño);
-        imagen.fill(Qt::transparent);
-        QPainter pintor(&imagen);
-        paint(&pintor, QRect(QPoint(0, 0), tamaño), modo, estado);
-        return imagen;
+        const QColor color = DevColor(modo);
+        if (imagen_.size() != tamaño || color != color_) {
+            color_ = color;
+            imagen_ = QPixmap(tamaño);
+            imagen_.fill(Qt::transparent);
+            QPainter pintor(&imagen_);
+            paint(&pintor, QRect(QPoint(0, 0), tamaño), modo, estado);
+        }
+        return imagen_;
     }
 
 protected:
     virtual void Dibuja(QPainter& pintor) = 0;
+
+private:
+    static QColor DevColor(QIcon::Mode modo) {
+        const auto grupo = modo == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        return QApplication::palette().color(grupo, QPalette::ButtonText);
+    }
+
+    QPixmap imagen_; // the last one asked for, in that colour
+    QColor color_;
 };
 
 // An arrow head at the origin that points to the left.

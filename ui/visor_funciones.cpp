@@ -28,8 +28,9 @@ VisorFunciones::VisorFunciones(QWidget* padre) : QWidget(padre) {
 }
 
 void VisorFunciones::Muestra(EscenaGráfica escena) {
+    if (escena != escena_)
+        capa_ = {};
     escena_ = std::move(escena);
-    capa_ = {};
     update();
 }
 

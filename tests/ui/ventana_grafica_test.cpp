@@ -10,10 +10,6 @@
 
 namespace quiralto {
 
-bool operator==(const Ventana& a, const Ventana& b) {
-    return a.XMáx == b.XMáx && a.XMín == b.XMín && a.YMáx == b.YMáx && a.YMín == b.YMín;
-}
-
 std::ostream& operator<<(std::ostream& salida, const Ventana& v) {
     return salida << "X " << v.XMín << ".." << v.XMáx << ", Y " << v.YMín << ".." << v.YMáx;
 }
