@@ -65,7 +65,8 @@ public:
         EcuaciónLineal ecuación;
         ecuación.independiente = independiente_;
         for (int i = 1; i <= MáximoÍndiceSln; ++i)
-            if (const double coeficiente = coeficientes_[static_cast<std::size_t>(i)])
+            if (const double coeficiente = coeficientes_[static_cast<std::size_t>(i)];
+                coeficiente != 0)
                 ecuación.términos.push_back({i, coeficiente});
         return ecuación;
     }

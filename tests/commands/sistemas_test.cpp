@@ -64,7 +64,7 @@ TEST(Sistemas, HallanLaSoluciónConLaQueSeHicieron) {
     const auto entero = [&](int máximo) {
         return static_cast<double>(azar() % static_cast<unsigned>(2 * máximo + 1)) - máximo;
     };
-    for (const std::size_t n : {1, 2, 3, 5, 8, 16, 40, 100, 256}) {
+    for (const std::size_t n : {1U, 2U, 3U, 5U, 8U, 16U, 40U, 100U, 256U}) {
         std::vector<double> solución;
         for (std::size_t j = 0; j < n; ++j)
             solución.push_back(entero(9));
