@@ -367,7 +367,7 @@ Racional CalculaRacional(Contexto& contexto, const Programa& programa) {
 
 Racional ConDenominadorLegible(const Contexto& contexto, Racional r) {
     if (SiExacto(r.numerador) != nullptr && SiExacto(r.denominador) != nullptr &&
-        EsCero(QuitaNulos(contexto, r.denominador)))
+        HayNulos(contexto, r.denominador))
         QuitaDenominadores(r.numerador, r.denominador);
     return r;
 }

@@ -43,8 +43,8 @@ void NormalizaFracción(Polinomio& numerador, Polinomio& denominador);
 // Fault: run-time error 11 for the denominator 0.
 Racional SimplificaRacional(Contexto& contexto, const Racional& r);
 
-// The same function, both sides scaled to whole coefficients where the denominator would be written
-// as 0.
+// The same function, both sides scaled to whole coefficients where one of the denominator would be
+// written as 0.
 Racional ConDenominadorLegible(const Contexto& contexto, Racional r);
 
 // Their gcd: that of the numerators over the lcm of the denominators; and their lcm: that of the
