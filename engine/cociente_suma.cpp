@@ -92,6 +92,7 @@ Fracción DevFracción(TablaSímbolos& tabla, const Términos& suma) {
 
 Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos denominador,
                      std::span<const Términos> divisores) {
+    tabla.contexto.Vigila(); // nested quotients cost work that no long loop shows
     const GuardaProfundidad guarda(tabla);
     for (int vuelta = 0;; ++vuelta) {
         Fracción f = ReduceFracción(tabla, std::move(numerador), std::move(denominador), divisores);
@@ -110,7 +111,7 @@ Términos DevCociente(TablaSímbolos& tabla, Términos numerador, Términos deno
         numerador = redondeada.numerador;
         denominador = redondeada.denominador;
         constexpr int MáximasVueltas = 3;
-        if (vuelta >= MáximasVueltas && !EsNúmero(denominador))
+        if (vuelta >= MáximasVueltas && !numerador.empty() && !EsNúmero(denominador))
             return DevTérminoCociente(tabla, std::move(redondeada),
                                       {std::move(numerador), std::move(denominador)});
     }

@@ -14,6 +14,9 @@
 //   negative whole exponents below it. Simplified: a sum of terms, in which a quotient by a number
 //   has become coefficients, and any other quotient stays, both sides expanded; negative exponents
 //   stay.
+// - A quotient in a sum has its sign in front where its numerator, of several terms, begins with a
+//   negative one; numerator and denominator are scaled to whole coefficients where decimals would
+//   cut one of them short (1/(X/7+1) is 7/(X+7)).
 // - Common factors of numerator and denominator are cancelled: powers, functions and groups,
 //   whole numbers, one side that divides the other, and groups that were factors of both.
 // - Parentheses only where the language needs them, and around a power that is raised again.
