@@ -1,7 +1,7 @@
 // A context that shows nothing and is never cancelled.
 #pragma once
 
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 namespace quiralto::bench {
 

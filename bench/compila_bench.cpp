@@ -1,9 +1,9 @@
 // The cost of compiling and deriving long texts: it must grow with the text, not with its square.
 
 #include "bench/apoyo.h"
-#include "engine/compila.h"
-#include "engine/deriva.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/deriva.h"
+#include "engine/lenguaje/sintaxis.h"
 
 #include <benchmark/benchmark.h>
 

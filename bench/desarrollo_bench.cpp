@@ -1,9 +1,9 @@
 // Expansion beside GiNaC. Ours goes from the compiled program to text, GiNaC's from a built
 // expression to an expanded one (GiNaC's text is measured apart).
 
-#include "engine/compila.h"
-#include "engine/deriva.h"
-#include "engine/desarrollo.h"
+#include "engine/desarrollo/desarrollo.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/deriva.h"
 #include "tests/apoyo.h"
 
 #include <benchmark/benchmark.h>

@@ -3,9 +3,9 @@
 
 #include "bench/apoyo.h"
 #include "bench/evalua_nativa.h"
-#include "engine/compila.h"
-#include "engine/evalua.h"
-#include "engine/sintaxis.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
 
 #include <benchmark/benchmark.h>
 #include <muParser.h>

@@ -1,7 +1,7 @@
 // Number theory: a range of primes beside libprimesieve, divisors and factors of the hardest
 // numbers.
 
-#include "engine/primos.h"
+#include "engine/numeros/primos.h"
 
 #include <benchmark/benchmark.h>
 #include <primesieve.hpp>

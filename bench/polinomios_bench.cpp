@@ -2,9 +2,9 @@
 // work: expanded polynomials with whole coefficients in, their gcd out.
 
 #include "bench/apoyo.h"
-#include "engine/compila.h"
-#include "engine/mcd_polinomios.h"
-#include "engine/racional.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/polinomios/mcd.h"
+#include "engine/polinomios/racional.h"
 
 #include <benchmark/benchmark.h>
 #include <ginac/ginac.h>

@@ -3,8 +3,8 @@
 
 #include "commands/ordenes.h"
 #include "commands/sistemas.h"
-#include "engine/ecuacion_lineal.h"
-#include "engine/sistema_lineal.h"
+#include "engine/sistemas/ecuacion_lineal.h"
+#include "engine/sistemas/sistema_lineal.h"
 #include "tests/apoyo.h"
 
 #include <Eigen/LU>

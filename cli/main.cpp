@@ -3,11 +3,11 @@
 #include "cli/opciones.h"
 #include "commands/fichero_primos.h"
 #include "commands/ordenes.h"
-#include "engine/compila.h"
-#include "engine/deriva.h"
-#include "engine/evalua.h"
-#include "engine/sintaxis.h"
-#include "engine/utf8.h"
+#include "engine/base/utf8.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/deriva.h"
+#include "engine/lenguaje/sintaxis.h"
 #include "quiralto_version.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "cli/opciones.h"
 
-#include "engine/contexto.h"
-#include "engine/numero.h"
-#include "engine/utf8.h"
+#include "engine/base/contexto.h"
+#include "engine/base/utf8.h"
+#include "engine/numeros/numero.h"
 
 #include <cmath>
 #include <span>

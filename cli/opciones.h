@@ -1,7 +1,7 @@
 // The command line of quiralto-cli.
 #pragma once
 
-#include "engine/muestreo.h"
+#include "engine/evaluacion/muestreo.h"
 
 #include <optional>
 #include <string>

@@ -1,11 +1,11 @@
 #include "commands/analisis.h"
 
 #include "commands/datos_funcion.h"
-#include "engine/compila.h"
-#include "engine/deriva.h"
-#include "engine/evalua.h"
-#include "engine/numero.h"
-#include "engine/raices.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/evaluacion/raices.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/deriva.h"
+#include "engine/numeros/numero.h"
 
 #include <cmath>
 #include <vector>

@@ -1,12 +1,12 @@
 #include "commands/calculo.h"
 
 #include "commands/datos_funcion.h"
-#include "engine/compila.h"
-#include "engine/deriva.h"
-#include "engine/desarrollo.h"
-#include "engine/evalua.h"
-#include "engine/numero.h"
-#include "engine/polinomio.h"
+#include "engine/desarrollo/desarrollo.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/deriva.h"
+#include "engine/numeros/numero.h"
+#include "engine/polinomios/polinomio.h"
 
 #include <optional>
 #include <utility>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "commands/hoja.h"
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 namespace quiralto {
 

@@ -1,8 +1,8 @@
 #include "commands/datos_funcion.h"
 
-#include "engine/numero.h"
-#include "engine/sintaxis.h"
-#include "engine/validadores.h"
+#include "engine/evaluacion/validadores.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "engine/numeros/numero.h"
 
 #include <limits>
 #include <vector>

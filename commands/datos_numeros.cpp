@@ -1,7 +1,7 @@
 #include "commands/datos_numeros.h"
 
-#include "engine/numero.h"
-#include "engine/validadores.h"
+#include "engine/evaluacion/validadores.h"
+#include "engine/numeros/numero.h"
 
 #include <array>
 #include <string>

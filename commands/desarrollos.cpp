@@ -1,10 +1,10 @@
 #include "commands/desarrollos.h"
 
 #include "commands/datos_funcion.h"
-#include "engine/caracteres.h"
-#include "engine/compila.h"
-#include "engine/desarrollo.h"
-#include "engine/sintaxis.h"
+#include "engine/base/caracteres.h"
+#include "engine/desarrollo/desarrollo.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
 
 #include <algorithm>
 #include <charconv>

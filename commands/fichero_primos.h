@@ -2,7 +2,7 @@
 // first, and nothing else. The program only ever reads it.
 #pragma once
 
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 #include <filesystem>
 

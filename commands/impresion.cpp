@@ -1,7 +1,7 @@
 #include "commands/impresion.h"
 
 #include "commands/hoja.h"
-#include "engine/utf8.h"
+#include "engine/base/utf8.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "commands/lagrange.h"
 
 #include "commands/datos_numeros.h"
-#include "engine/compila.h"
-#include "engine/numero.h"
-#include "engine/racional.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "engine/numeros/numero.h"
+#include "engine/polinomios/racional.h"
 
 #include <optional>
 #include <span>

@@ -2,11 +2,11 @@
 
 #include "commands/datos_funcion.h"
 #include "commands/datos_numeros.h"
-#include "engine/fracciones.h"
-#include "engine/mcd.h"
-#include "engine/numero.h"
-#include "engine/primos.h"
-#include "engine/validadores.h"
+#include "engine/evaluacion/validadores.h"
+#include "engine/numeros/fraccion_continua.h"
+#include "engine/numeros/mcd_decimales.h"
+#include "engine/numeros/numero.h"
+#include "engine/numeros/primos.h"
 
 #include <algorithm>
 #include <cmath>

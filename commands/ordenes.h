@@ -3,7 +3,7 @@
 #pragma once
 
 #include "commands/hoja.h"
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 #include <span>
 #include <string_view>

@@ -1,10 +1,10 @@
 #include "commands/racionales.h"
 
 #include "commands/datos_funcion.h"
-#include "engine/compila.h"
-#include "engine/factoriza.h"
-#include "engine/racional.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "engine/polinomios/factores.h"
+#include "engine/polinomios/racional.h"
 
 #include <optional>
 #include <span>

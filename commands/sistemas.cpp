@@ -1,9 +1,9 @@
 #include "commands/sistemas.h"
 
-#include "engine/ecuacion_lineal.h"
-#include "engine/numero.h"
-#include "engine/sintaxis.h"
-#include "engine/sistema_lineal.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "engine/numeros/numero.h"
+#include "engine/sistemas/ecuacion_lineal.h"
+#include "engine/sistemas/sistema_lineal.h"
 
 #include <algorithm>
 #include <optional>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "commands/hoja.h"
-#include "engine/contexto.h"
-#include "engine/sistema_lineal.h"
+#include "engine/base/contexto.h"
+#include "engine/sistemas/sistema_lineal.h"
 
 #include <string>
 #include <string_view>

@@ -1,8 +1,8 @@
 // The derivative of an accepted text is an accepted text, or too large for one.
 
-#include "engine/deriva.h"
-#include "engine/compila.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/deriva.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
 #include "fuzz/entrada.h"
 
 using namespace quiralto;

@@ -2,7 +2,7 @@
 // way in which a broken promise becomes a crash.
 #pragma once
 
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // Any text through Sintaxis and the compiler: a scalar and a block run agree to the bit.
 
-#include "engine/evalua.h"
-#include "engine/compila.h"
-#include "engine/sintaxis.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
 #include "fuzz/entrada.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // What the tests share: a context that records messages instead of showing them.
 #pragma once
 
-#include "engine/contexto.h"
+#include "engine/base/contexto.h"
 
 #include <functional>
 #include <ostream>

@@ -1,7 +1,7 @@
 // Primes found without the engine, for the tests to compare with.
 #pragma once
 
-#include "engine/primos.h"
+#include "engine/numeros/primos.h"
 
 #include <algorithm>
 #include <cstdint>

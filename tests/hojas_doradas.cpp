@@ -1,7 +1,7 @@
 #include "tests/hojas_doradas.h"
 
 #include "commands/hoja.h"
-#include "engine/utf8.h"
+#include "engine/base/utf8.h"
 
 #include <algorithm>
 #include <array>

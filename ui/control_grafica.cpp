@@ -1,6 +1,6 @@
 #include "ui/control_grafica.h"
 
-#include "engine/numero.h"
+#include "engine/numeros/numero.h"
 #include "ui/marcas_eje.h"
 #include "ui/marco_barra.h"
 #include "ui/texto_qt.h"

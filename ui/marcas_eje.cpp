@@ -1,6 +1,6 @@
 #include "ui/marcas_eje.h"
 
-#include "engine/numero.h"
+#include "engine/numeros/numero.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "ui/marco_extremos.h"
 
-#include "engine/numero.h"
-#include "engine/validadores.h"
+#include "engine/evaluacion/validadores.h"
+#include "engine/numeros/numero.h"
 #include "ui/texto_qt.h"
 
 #include <QGridLayout>

@@ -1,8 +1,8 @@
 // The frame in which the four extremes of the plot window are typed.
 #pragma once
 
-#include "engine/contexto.h"
-#include "engine/muestreo.h"
+#include "engine/base/contexto.h"
+#include "engine/evaluacion/muestreo.h"
 #include "ui/caja_formula.h"
 
 #include <QDialog>

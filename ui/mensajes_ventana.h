@@ -1,7 +1,7 @@
 // Messages as modal boxes over the active window.
 #pragma once
 
-#include "engine/mensajes.h"
+#include "engine/base/mensajes.h"
 
 namespace quiralto {
 

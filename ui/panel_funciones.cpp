@@ -1,7 +1,7 @@
 #include "ui/panel_funciones.h"
 
-#include "engine/numero.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "engine/numeros/numero.h"
 #include "ui/dibujo_grafica.h"
 #include "ui/marcas_eje.h"
 #include "ui/texto_qt.h"

@@ -1,6 +1,6 @@
 #include "ui/teclas.h"
 
-#include "engine/validadores.h"
+#include "engine/evaluacion/validadores.h"
 
 #include <QApplication>
 

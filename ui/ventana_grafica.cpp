@@ -1,8 +1,8 @@
 #include "ui/ventana_grafica.h"
 
-#include "engine/compila.h"
-#include "engine/evalua.h"
-#include "engine/sintaxis.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/sintaxis.h"
 
 #include <cmath>
 #include <limits>

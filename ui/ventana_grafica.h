@@ -3,9 +3,9 @@
 // be drawn is undone as a whole.
 #pragma once
 
-#include "engine/contexto.h"
-#include "engine/muestreo.h"
-#include "engine/programa.h"
+#include "engine/base/contexto.h"
+#include "engine/evaluacion/muestreo.h"
+#include "engine/lenguaje/programa.h"
 
 #include <array>
 #include <optional>

@@ -2,7 +2,7 @@
 // with "Cancelar", and keeps the window painted.
 #pragma once
 
-#include "engine/vigilante.h"
+#include "engine/base/vigilante.h"
 
 #include <QElapsedTimer>
 #include <QProgressDialog>

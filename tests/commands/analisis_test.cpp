@@ -1,7 +1,7 @@
 // The numeric commands against mathematics of their own: functions are built from the answers.
 
 #include "commands/ordenes.h"
-#include "engine/numero.h"
+#include "engine/numeros/numero.h"
 #include "tests/apoyo.h"
 
 #include <algorithm>

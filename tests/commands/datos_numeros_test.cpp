@@ -1,5 +1,5 @@
-#include "apoyo.h"
 #include "commands/datos_numeros.h"
+#include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "apoyo.h"
 #include "commands/fichero_primos.h"
-#include "criba.h"
+#include "tests/apoyo.h"
+#include "tests/criba.h"
 
 #include <gtest/gtest.h>
 

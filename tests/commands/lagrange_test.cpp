@@ -1,7 +1,7 @@
 #include "commands/lagrange.h"
 
-#include "apoyo.h"
 #include "commands/ordenes.h"
+#include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
 

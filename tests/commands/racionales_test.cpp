@@ -1,8 +1,8 @@
 #include "commands/racionales.h"
 
-#include "apoyo.h"
 #include "commands/ordenes.h"
-#include "engine/sintaxis.h"
+#include "engine/lenguaje/sintaxis.h"
+#include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
 

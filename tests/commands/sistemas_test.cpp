@@ -1,9 +1,9 @@
-#include "apoyo.h"
 #include "commands/ordenes.h"
 #include "commands/sistemas.h"
-#include "engine/compila.h"
-#include "engine/evalua.h"
-#include "engine/numero.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/numeros/numero.h"
+#include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
 

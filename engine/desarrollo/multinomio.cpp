@@ -1,0 +1,155 @@
+#include "engine/desarrollo/multinomio.h"
+
+#include "engine/base/fallos.h"
+#include "engine/desarrollo/semejantes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace quiralto {
+namespace {
+
+constexpr std::size_t MáximosSumandos = 8;
+
+// The ways to share n out among k terms.
+double DevRepartos(double n, std::size_t k) {
+    double repartos = 1;
+    for (std::size_t i = 1; i < k; ++i)
+        repartos = repartos * (n + static_cast<double>(i)) / static_cast<double>(i);
+    return std::round(repartos);
+}
+
+// No more terms than this can be unlike: the exponents of each symbol lie between n times the
+// least and n times the greatest.
+double DevCota(const Términos& base, double n) {
+    std::map<IdSímbolo, std::pair<double, double>> extremos;
+    for (const Término& término : base)
+        for (const Factor& factor : término.literal) {
+            auto& [mínimo, máximo] = extremos[factor.símbolo]; // 0 where a term lacks it
+            mínimo = std::min(mínimo, factor.exponente);
+            máximo = std::max(máximo, factor.exponente);
+        }
+    double cota = 1;
+    for (const auto& [símbolo, suyos] : extremos)
+        cota *= n * (suyos.second - suyos.first) + 1;
+    return cota;
+}
+
+// Long double: binomials past 2^53 stay exact longer, and past 1E308 may be made up for by small
+// coefficients.
+class Repartidor {
+public:
+    Repartidor(const TablaSímbolos& tabla, const Términos& base, std::size_t n)
+        : tabla_(tabla), base_(base), n_(n), partes_(base.size(), 0), previos_(base.size() + 1) {
+        previos_[0] = {1, {}, n};
+        literales_.resize(base.size());
+        coeficientes_.resize(base.size());
+        for (std::size_t i = 0; i < base.size(); ++i) {
+            literales_[i].push_back({});
+            coeficientes_[i].push_back(1);
+        }
+    }
+
+    Términos Eleva() {
+        Recolector potencia(tabla_.contexto);
+        const std::size_t último = base_.size() - 1;
+        partes_[0] = n_;
+        Acumula(0);
+        for (;;) {
+            const Previo& entero = previos_.back();
+            potencia.Añade(static_cast<double>(entero.coeficiente), entero.literal);
+            std::size_t i = último;
+            while (i > 0 && partes_[i - 1] == 0)
+                --i;
+            if (i == 0)
+                return potencia.Toma();
+            --partes_[i - 1];
+            const std::size_t resto = partes_[último] + 1;
+            partes_[último] = 0;
+            partes_[i] = resto;
+            Acumula(i - 1);
+        }
+    }
+
+private:
+    // The product of the powers of the first terms, and what is left to share out.
+    struct Previo {
+        long double coeficiente;
+        Literal literal;
+        std::size_t resto;
+    };
+
+    void Acumula(std::size_t desde) {
+        for (std::size_t i = desde; i < base_.size(); ++i) {
+            const std::size_t parte = partes_[i];
+            Previo& siguiente = previos_[i + 1];
+            const Previo& previo = previos_[i];
+            siguiente.resto = previo.resto - parte;
+            if (parte == 0) {
+                siguiente.coeficiente = previo.coeficiente;
+                siguiente.literal = previo.literal;
+                continue;
+            }
+            PreparaPotencia(i, parte);
+            siguiente.coeficiente =
+                previo.coeficiente * Binomio(previo.resto, parte) * coeficientes_[i][parte];
+            MultiplicaLiterales(tabla_, previo.literal, literales_[i][parte], siguiente.literal);
+        }
+    }
+
+    void PreparaPotencia(std::size_t i, std::size_t parte) {
+        while (literales_[i].size() <= parte) {
+            Literal literal;
+            MultiplicaLiterales(tabla_, literales_[i].back(), base_[i].literal, literal);
+            literales_[i].push_back(std::move(literal));
+            coeficientes_[i].push_back(coeficientes_[i].back() *
+                                       static_cast<long double>(base_[i].coeficiente));
+        }
+    }
+
+    long double Binomio(std::size_t de, std::size_t parte) {
+        parte = std::min(parte, de - parte);
+        if (parte == 0)
+            return 1;
+        if (binomios_.size() <= de)
+            binomios_.resize(de + 1);
+        std::vector<long double>& fila = binomios_[de];
+        if (fila.empty())
+            fila.push_back(1);
+        while (fila.size() <= parte) {
+            const auto i = static_cast<long double>(fila.size());
+            fila.push_back(fila.back() * (static_cast<long double>(de) - i + 1) / i);
+        }
+        return fila[parte];
+    }
+
+    const TablaSímbolos& tabla_;
+    const Términos& base_;
+    std::size_t n_;
+    std::vector<std::size_t> partes_;
+    std::vector<Previo> previos_;
+    std::vector<std::vector<Literal>> literales_;        // powers of each term
+    std::vector<std::vector<long double>> coeficientes_; // likewise
+    std::vector<std::vector<long double>> binomios_;     // rows, as far as they were needed
+};
+
+} // namespace
+
+std::optional<Términos> ElevaPorMultinomio(const TablaSímbolos& tabla, const Términos& base,
+                                           double n) {
+    const bool conCocientes =
+        tabla.HayCocientes() && std::ranges::any_of(base, [&](const Término& t) {
+            return DevCocienteDe(tabla, t.literal) != nullptr;
+        });
+    const double repartos = DevRepartos(n, std::min(base.size(), MáximosSumandos));
+    if (conCocientes || base.size() > MáximosSumandos || repartos > DevCota(base, n))
+        return std::nullopt;
+    // A binomial runs through all of them, a longer sum ends at the bound on terms.
+    constexpr double MáximoExponente = 1 << 20;
+    if (n > MáximoExponente)
+        throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+    return Repartidor(tabla, base, static_cast<std::size_t>(n)).Eleva();
+}
+
+} // namespace quiralto

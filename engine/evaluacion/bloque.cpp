@@ -1,0 +1,203 @@
+#include "engine/evaluacion/bloque.h"
+
+#include "engine/evaluacion/aritmetica.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace quiralto {
+namespace {
+
+// Everything that runs over a row is inlined into the two copies of EjecutaPaso below, so that each
+// of them is compiled for its own instruction set.
+#define QUIRALTO_EN_LÍNEA [[gnu::always_inline]] inline
+
+template <typename F>
+QUIRALTO_EN_LÍNEA void Aplica(double* __restrict destino, const double* __restrict a, F f) {
+    for (std::size_t i = 0; i < TamañoFila; ++i)
+        destino[i] = f(a[i]);
+}
+
+// A row never is its own operand: the plan takes the result's row before it gives theirs back.
+template <typename F>
+QUIRALTO_EN_LÍNEA void AplicaBinaria(const Filas& filas, const Paso& paso, F f) {
+    double* const __restrict destino = filas[paso.destino];
+    const double* const a = filas[paso.izquierdo.fila];
+    const double* const b = filas[paso.derecho.fila];
+    const double constante = paso.derecho.esFila ? paso.izquierdo.valor : paso.derecho.valor;
+    if (!paso.derecho.esFila) {
+        for (std::size_t i = 0; i < TamañoFila; ++i)
+            destino[i] = f(a[i], constante);
+    } else if (!paso.izquierdo.esFila) {
+        for (std::size_t i = 0; i < TamañoFila; ++i)
+            destino[i] = f(constante, b[i]);
+    } else {
+        for (std::size_t i = 0; i < TamañoFila; ++i)
+            destino[i] = f(a[i], b[i]);
+    }
+}
+
+QUIRALTO_EN_LÍNEA void AplicaPotencia(const Filas& filas, const Paso& paso) {
+    double* const destino = filas[paso.destino];
+    const double* const base = filas[paso.izquierdo.fila];
+    switch (paso.derecho.esFila ? 0 : ExponenteProducto(paso.derecho.valor)) {
+    case 2:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<2>(a); });
+    case 3:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<3>(a); });
+    case 4:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<4>(a); });
+    case 5:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<5>(a); });
+    case 6:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<6>(a); });
+    case 7:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<7>(a); });
+    case 8:
+        return Aplica(destino, base, [](double a) { return PotenciaEntera<8>(a); });
+    default:
+        return AplicaBinaria(filas, paso, [](double a, double b) { return DevPotencia(a, b); });
+    }
+}
+
+// The compiler makes one call of the two, which gives the bits of both.
+QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(double* __restrict seno, double* __restrict coseno,
+                                         const double* __restrict a) {
+    for (std::size_t i = 0; i < TamañoFila; ++i) {
+        seno[i] = std::sin(a[i]);
+        coseno[i] = std::cos(a[i]);
+    }
+}
+
+QUIRALTO_EN_LÍNEA void EjecutaPasoGenérico(const Filas& filas, const Paso& paso) {
+    double* const destino = filas[paso.destino];
+    const double* const argumento = filas[paso.derecho.fila];
+    switch (paso.código) {
+    case Operación::Suma:
+        return AplicaBinaria(filas, paso, [](double a, double b) { return a + b; });
+    case Operación::Resta:
+        return AplicaBinaria(filas, paso, [](double a, double b) { return a - b; });
+    case Operación::Producto:
+        return AplicaBinaria(filas, paso, [](double a, double b) { return a * b; });
+    case Operación::Cociente:
+        return AplicaBinaria(filas, paso, [](double a, double b) { return a / b; });
+    case Operación::Potencia:
+        return AplicaPotencia(filas, paso);
+    case Operación::Log:
+        return Aplica(destino, argumento, [](double a) { return std::log(a); });
+    case Operación::Sin:
+        if (paso.destinoCoseno != 0)
+            return AplicaSenoYCoseno(destino, filas[paso.destinoCoseno], argumento);
+        return Aplica(destino, argumento, [](double a) { return std::sin(a); });
+    case Operación::Cos:
+        return Aplica(destino, argumento, [](double a) { return std::cos(a); });
+    case Operación::Tan:
+        return Aplica(destino, argumento, [](double a) { return std::tan(a); });
+    case Operación::Atn:
+        return Aplica(destino, argumento, [](double a) { return std::atan(a); });
+    case Operación::Exp:
+        return Aplica(destino, argumento, [](double a) { return std::exp(a); });
+    case Operación::Sqr:
+        return Aplica(destino, argumento, [](double a) { return std::sqrt(a); });
+    case Operación::Sec:
+        return Aplica(destino, argumento, [](double a) { return DevSecante(a); });
+    case Operación::Cosec:
+        return Aplica(destino, argumento, [](double a) { return DevCosecante(a); });
+    case Operación::Arcsin:
+        return Aplica(destino, argumento, [](double a) { return DevArcoseno(a); });
+    case Operación::Sln:
+        return; // never planned
+    }
+}
+
+// v - v is 0 for a finite v and not a number for any other.
+QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(const double* fila) {
+    constexpr std::size_t Carriles = 16;
+    std::array<double, Carriles> sumas{};
+    for (std::size_t i = 0; i < TamañoFila; i += Carriles)
+        for (std::size_t k = 0; k < Carriles; ++k)
+            sumas[k] += fila[i + k] - fila[i + k];
+    double total = 0;
+    for (const double suma : sumas)
+        total += suma;
+    return total == 0;
+}
+
+void EjecutaPasoBase(const Filas& filas, const Paso& paso) {
+    EjecutaPasoGenérico(filas, paso);
+}
+
+bool TodosFinitosBase(const double* fila) {
+    return TodosFinitosGenérico(fila);
+}
+
+#if defined(__x86_64__)
+// Twice as many values an instruction where the processor can; the results are the same bits.
+[[gnu::target("avx2")]] void EjecutaPasoAvx2(const Filas& filas, const Paso& paso) {
+    EjecutaPasoGenérico(filas, paso);
+}
+
+[[gnu::target("avx2")]] bool TodosFinitosAvx2(const double* fila) {
+    return TodosFinitosGenérico(fila);
+}
+#endif
+
+} // namespace
+
+EjecutorDeBloques::Procesador EjecutorDeBloques::DevProcesador() {
+#if defined(__x86_64__)
+    if (__builtin_cpu_supports("avx2"))
+        return {EjecutaPasoAvx2, TodosFinitosAvx2};
+#endif
+    return {EjecutaPasoBase, TodosFinitosBase};
+}
+
+EjecutorDeBloques::EjecutorDeBloques(const Plan& plan)
+    : plan_(plan), propias_(std::make_unique_for_overwrite<double[]>(plan.filas * TamañoFila)),
+      filas_(plan.filas) {
+    for (std::size_t i = 0; i < filas_.size(); ++i)
+        filas_[i] = propias_.get() + i * TamañoFila;
+}
+
+void EjecutorDeBloques::Ejecuta(std::span<const double> equis, std::span<double> valores) {
+    // A whole block is read and written where the caller has it.
+    const bool entero = equis.size() == TamañoFila;
+    double* const equisPropias = propias_.get();
+    if (!entero)
+        std::fill(std::ranges::copy(equis, equisPropias).out, equisPropias + TamañoFila,
+                  equis.back());
+    // Row 0 is never written.
+    filas_[0] = entero ? const_cast<double*>(equis.data()) : equisPropias;
+    hayFallos_ = false;
+    for (auto paso = plan_.pasos.begin(); paso != plan_.pasos.end() - 1; ++paso) {
+        procesador_.EjecutaPaso(filas_, *paso);
+        Comprueba(*paso);
+    }
+    const Paso& último = plan_.pasos.back();
+    double* const suya = filas_[plan_.resultado];
+    if (entero)
+        filas_[plan_.resultado] = valores.data();
+    procesador_.EjecutaPaso(filas_, último);
+    Comprueba(último);
+    filas_[plan_.resultado] = suya;
+    if (!entero)
+        std::copy_n(suya, valores.size(), valores.begin());
+}
+
+void EjecutorDeBloques::Comprueba(const Paso& paso) {
+    if (!paso.vigilado)
+        return;
+    for (const std::size_t fila : {paso.destino, paso.destinoCoseno})
+        if (fila != 0 && !procesador_.TodosFinitos(filas_[fila]))
+            AnotaFallos(filas_[fila]);
+}
+
+void EjecutorDeBloques::AnotaFallos(const double* fila) {
+    if (!std::exchange(hayFallos_, true))
+        fallos_.fill(false);
+    for (std::size_t i = 0; i < TamañoFila; ++i)
+        fallos_[i] = fallos_[i] || !std::isfinite(fila[i]);
+}
+
+} // namespace quiralto

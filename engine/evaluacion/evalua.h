@@ -1,0 +1,34 @@
+// Running a compiled formula: for one value of X, or for many at once.
+//
+// Faults: the first instruction whose result is not a finite number ends the run with
+//   11  a division by zero (0/0 too), 0 raised to a negative exponent;
+//    5  any other result that is no real number (SQR or LOG out of their domain, a negative base
+//       under a fractional exponent, ARCSIN outside [-1, 1]);
+//    6  a result beyond the Double range.
+#pragma once
+
+#include "engine/base/contexto.h"
+#include "engine/lenguaje/programa.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+namespace quiralto {
+
+// Runs the program at x and returns its value. A fault sets contexto.ErrorCódigo and the value
+// means nothing; a run without a fault leaves ErrorCódigo as it was. The registers keep what was
+// computed.
+double EvalúaPrograma(Contexto& contexto, Programa& programa, double x);
+
+// The value at x, or none where there is a fault. Leaves ErrorCódigo clear.
+std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x);
+
+// The same for every value of `equis`: valores[i] and fallos[i] are what EvalúaPrograma would
+// return and set at equis[i], to the bit (fallos[i] is 0 without a fault, and valores[i] means
+// nothing with one). The three spans have one length. contexto.ErrorCódigo is left alone; the
+// watcher is asked between blocks.
+void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
+                  std::span<double> valores, std::span<std::int16_t> fallos);
+
+} // namespace quiralto

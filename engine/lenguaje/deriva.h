@@ -1,0 +1,30 @@
+// Symbolic differentiation, by rewriting of text.
+#pragma once
+
+#include "engine/base/contexto.h"
+
+#include <string>
+#include <string_view>
+
+namespace quiralto {
+
+// The derivative of a text that Sintaxis has accepted, in the same language. Only signs are folded;
+// tidying is the business of the expansion. The rules split a text, in this order, at its first
+// "+", last "-", first "*", last "/" and first "^" outside parentheses, and write
+//
+//   (u+v)' = (u'+v')        (u-v)' = (u'-v')          (u*v)' = (u*v'+v*u')
+//   (u/v)' = (v*u'-u*v')/v^2          (u^v)' = (u^v*v'*LOG(u)+v*u^(v-1)*u')
+//
+// without the part that has no X in it; the chain rule stands before or behind each function's
+// derivative. A leading sign that these leave whole is the derivative's.
+//
+// The language takes a sign behind "*", "/" or "^" with its operand before any power ("3*-X^2" is
+// 3 times (-X)^2). A signed base there, in the input, and a derivative there that begins with a
+// signed power are put in parentheses, so that the derivative has the value it should; the one
+// exception is a chain a^b^c, which is split at its first "^".
+//
+// Faults: run-time error 14 for a derivative past MáximoTexto or an input of more than two
+// million operators; 5 for a text that is not of the language.
+std::string Deriva(Contexto& contexto, std::string_view f);
+
+} // namespace quiralto

@@ -1,0 +1,60 @@
+// Arithmetic modulo a prime of 62 bits, in Montgomery's form: the image in which polynomials with
+// whole coefficients are divided without their coefficients growing.
+#pragma once
+
+#include "engine/numeros/entero.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace quiralto {
+
+class CampoPrimo {
+public:
+    using Resto = std::uint64_t; // in Montgomery's form, 0 .. primo - 1
+
+    // An odd number from 3 to 2^62; a prime where Inverso is used.
+    explicit CampoPrimo(std::uint64_t primo);
+
+    std::uint64_t Primo() const { return primo_; }
+    Resto DevResto(const Entero& número) const { return AResto(número.Módulo(primo_)); }
+    Resto AResto(std::uint64_t valor) const { return Producto(valor, cuadrado_); }
+    std::uint64_t DevValor(Resto a) const { return Reduce(a); } // 0 .. primo - 1
+
+    Resto Uno() const { return uno_; }
+    Resto Suma(Resto a, Resto b) const { return a + b >= primo_ ? a + b - primo_ : a + b; }
+    Resto Resta(Resto a, Resto b) const { return a >= b ? a - b : a + primo_ - b; }
+    Resto Producto(Resto a, Resto b) const { return Reduce(Doble{a} * b); }
+    Resto Potencia(Resto base, std::uint64_t exponente) const;
+    Resto Inverso(Resto a) const { return Potencia(a, primo_ - 2); } // a is not 0
+
+private:
+    __extension__ using Doble = unsigned __int128;
+
+    std::uint64_t Reduce(Doble t) const {
+        const auto m = static_cast<std::uint64_t>(t) * inverso_;
+        const auto r = static_cast<std::uint64_t>((t + Doble{m} * primo_) >> 64);
+        return r >= primo_ ? r - primo_ : r;
+    }
+
+    std::uint64_t primo_;
+    std::uint64_t inverso_;  // -1 / primo modulo 2^64
+    std::uint64_t uno_;      // 2^64 modulo primo
+    std::uint64_t cuadrado_; // 2^128 modulo primo
+};
+
+// The largest primes below 2^62, one after the other.
+class SucesiónDePrimos {
+public:
+    std::uint64_t Siguiente();
+
+private:
+    std::size_t tomados_ = 0;
+    std::uint64_t último_ = 0;
+};
+
+// Whether an odd number from 3 to 2^62 is a prime (Miller and Rabin's test with the bases that
+// decide it for every number of 64 bits).
+bool EsPrimo(std::uint64_t número);
+
+} // namespace quiralto

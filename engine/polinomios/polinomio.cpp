@@ -1,0 +1,337 @@
+#include "engine/polinomios/polinomio.h"
+
+#include "engine/numeros/numero.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quiralto {
+namespace {
+
+// --- Numbers
+
+bool EsDecimalCorto(double valor, int dígitos) {
+    return DecimalesNúmero(valor) <= dígitos;
+}
+
+// The exact polynomial with these coefficients, each as the general form writes it.
+Polinomio DevExactoDeDecimales(const TérminosPolinomio<double>& términos) {
+    std::vector<FormaEntera> formas;
+    formas.reserve(términos.size());
+    int lugares = 0;
+    for (const auto& término : términos) {
+        formas.push_back(DevFormaEntera(término.coeficiente));
+        lugares = std::max(lugares, -formas.back().exponente);
+    }
+    TérminosPolinomio<Entero> enteros;
+    enteros.reserve(términos.size());
+    for (std::size_t i = 0; i < términos.size(); ++i) {
+        Entero entero = términos[i].coeficiente < 0 ? -formas[i].mantisa : formas[i].mantisa;
+        if (const int ceros = lugares + formas[i].exponente; ceros > 0)
+            entero *= DevPotenciaDeDiez(ceros);
+        enteros.push_back({términos[i].exponente, std::move(entero)});
+    }
+    return DevExacto(std::move(enteros), DevPotenciaDeDiez(lugares));
+}
+
+Polinomio Suma(const Polinomio& p, const Polinomio& q, std::int64_t signo) {
+    const PolinomioExacto* const a = SiExacto(p);
+    const PolinomioExacto* const b = SiExacto(q);
+    if (a == nullptr || b == nullptr)
+        return DevReal(Combina<double>(AReal(p), 1, AReal(q), static_cast<double>(signo)));
+    if (a->denominador == b->denominador)
+        return DevExacto(Combina<Entero>(a->términos, 1, b->términos, signo), a->denominador);
+    const Entero común = DevMCD(a->denominador, b->denominador);
+    const Entero factorA = Entero::Divide(b->denominador, común).cociente;
+    const Entero factorB = Entero::Divide(a->denominador, común).cociente * signo;
+    return DevExacto(Combina(a->términos, factorA, b->términos, factorB), a->denominador * factorA);
+}
+
+// --- Text
+
+// A sign that neither begins the text nor stands behind "^" or an exponent letter.
+bool EsFrontera(std::string_view texto, std::size_t i) {
+    return (texto[i] == '+' || texto[i] == '-') && i > 0 && texto[i - 1] != '^' &&
+           texto[i - 1] != 'E';
+}
+
+TérminoPolinomio<double> LeeTérmino(std::string_view término) {
+    double coeficiente = 0;
+    if (término.starts_with("+X") || término.starts_with("X^") || término == "X")
+        coeficiente = 1;
+    else if (término.starts_with("-X"))
+        coeficiente = -1;
+    else
+        coeficiente = Val(término);
+    const std::size_t x = término.find('X');
+    if (x == std::string_view::npos)
+        return {0, coeficiente};
+    const std::string_view trasX = término.substr(x + 1);
+    return {trasX.empty() ? 1 : Val(trasX.substr(1)), coeficiente};
+}
+
+void EscribeTérmino(std::string& texto, double coeficiente, double exponente) {
+    if (coeficiente > 0 && !texto.empty())
+        texto += '+';
+    if (exponente == 0) {
+        texto += TextoNúmero(coeficiente);
+        return;
+    }
+    if (coeficiente == -1)
+        texto += '-';
+    else if (coeficiente != 1)
+        (texto += TextoNúmero(coeficiente)) += '*';
+    texto += 'X';
+    if (exponente != 1)
+        (texto += '^') += TextoNúmero(exponente);
+}
+
+} // namespace
+
+// --- Text
+
+TérminosPolinomio<double> LeePolinomio(std::string_view texto) {
+    TérminosPolinomio<double> términos;
+    std::size_t comienzo = 0;
+    for (std::size_t i = 1; i <= texto.size(); ++i) {
+        if (i != texto.size() && !EsFrontera(texto, i))
+            continue;
+        términos.push_back(LeeTérmino(texto.substr(comienzo, i - comienzo)));
+        comienzo = i;
+    }
+    return términos;
+}
+
+Polinomio ReduceTérminos(const Contexto& contexto, TérminosPolinomio<double> términos) {
+    Ordena(términos);
+    if (std::ranges::all_of(términos, [&](const TérminoPolinomio<double>& t) {
+            return EsDecimalCorto(t.coeficiente, contexto.DígitosRedondeo);
+        }))
+        return DevExactoDeDecimales(términos);
+    Agrupa(términos);
+    return DevReal(std::move(términos));
+}
+
+std::string EscribePolinomio(const Contexto& contexto, const TérminosPolinomio<double>& términos) {
+    std::string texto;
+    for (const auto& [exponente, coeficiente] : términos) {
+        const double redondeado = Redondea(coeficiente, contexto.DígitosRedondeo);
+        if (redondeado != 0)
+            EscribeTérmino(texto, redondeado, Redondea(exponente, contexto.DígitosRedondeo));
+    }
+    return texto.empty() ? "0" : texto;
+}
+
+std::string EscribePolinomio(const Contexto& contexto, const Polinomio& p) {
+    return EscribePolinomio(contexto, AReal(p));
+}
+
+std::string EscribePolinomio(const Contexto& contexto, std::string_view texto) {
+    return EscribePolinomio(contexto, LeePolinomio(texto));
+}
+
+Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p) {
+    if (EsDeCoeficientesEnteros(p))
+        return p;
+    TérminosPolinomio<double> términos = AReal(p);
+    for (TérminoPolinomio<double>& t : términos)
+        t.coeficiente = Redondea(t.coeficiente, contexto.DígitosRedondeo);
+    return DevExactoDeDecimales(términos);
+}
+
+bool HayNulos(const Contexto& contexto, const Polinomio& p) {
+    return std::ranges::any_of(AReal(p), [&](const TérminoPolinomio<double>& t) {
+        return Redondea(t.coeficiente, contexto.DígitosRedondeo) == 0;
+    });
+}
+
+Polinomio QuitaNulos(const Contexto& contexto, Polinomio p) {
+    const PolinomioReal real = AReal(p);
+    std::visit(
+        [&](auto& polinomio) {
+            std::size_t i = 0;
+            const auto esNulo = [&](const auto& /*término*/) {
+                return Redondea(real[i++].coeficiente, contexto.DígitosRedondeo) == 0;
+            };
+            if constexpr (std::is_same_v<decltype(polinomio), PolinomioExacto&>)
+                std::erase_if(polinomio.términos, esNulo);
+            else
+                std::erase_if(polinomio, esNulo);
+        },
+        p);
+    return p;
+}
+
+bool EsDeDecimales(const Contexto& contexto, const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    if (exacto == nullptr)
+        return false;
+    constexpr int DígitosSignificativos = 15;
+    const Entero tope = DevPotenciaDeDiez(DígitosSignificativos);
+    const Entero escala = DevPotenciaDeDiez(contexto.DígitosRedondeo);
+    return std::ranges::all_of(exacto->términos, [&](const TérminoPolinomio<Entero>& t) {
+        auto [escalado, sobra] = Entero::Divide(t.coeficiente * escala, exacto->denominador);
+        if (!sobra.EsCero())
+            return false;
+        if (escalado.Signo() < 0)
+            escalado.CambiaSigno();
+        while ((escalado - tope).Signo() >= 0) {
+            auto [décima, cifra] = Entero::Divide(escalado, 10);
+            if (!cifra.EsCero())
+                return false;
+            escalado = std::move(décima);
+        }
+        return true;
+    });
+}
+
+// --- Values
+
+Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador) {
+    Agrupa(términos);
+    std::erase_if(términos, [](const auto& t) { return t.coeficiente.EsCero(); });
+    CompruebaCantidad(términos.size());
+    Entero común = denominador;
+    for (const TérminoPolinomio<Entero>& t : términos) {
+        if (común.EsUno())
+            break;
+        común = DevMCD(común, t.coeficiente);
+    }
+    if (denominador.Signo() < 0 && común.Signo() > 0)
+        común.CambiaSigno();
+    if (!común.EsUno()) {
+        denominador = Entero::Divide(denominador, común).cociente;
+        for (TérminoPolinomio<Entero>& t : términos)
+            t.coeficiente = Entero::Divide(t.coeficiente, común).cociente;
+    }
+    constexpr std::size_t BitsDeDouble = 1023; // within them every quotient is a finite Double
+    std::size_t bits = 0;
+    for (const TérminoPolinomio<Entero>& t : términos) {
+        const std::size_t suyos = t.coeficiente.Bits();
+        bits = std::max(bits, suyos);
+        if (suyos > BitsDeDouble)
+            CompruebaFinito(DevCociente(t.coeficiente, denominador));
+    }
+    PolinomioExacto exacto{std::move(términos), std::move(denominador)};
+    if (bits > MáximoBitsExactos || exacto.denominador.Bits() > MáximoBitsExactos)
+        return DevReal(AReal(exacto));
+    return exacto;
+}
+
+Polinomio DevReal(PolinomioReal términos) {
+    for (const auto& término : términos)
+        CompruebaFinito(término.coeficiente);
+    std::erase_if(términos, [](const auto& t) { return t.coeficiente == 0; });
+    CompruebaCantidad(términos.size());
+    return términos;
+}
+
+Polinomio DevConstante(double valor) {
+    return DevExactoDeDecimales({{0, valor}});
+}
+
+Polinomio DevConstanteCalculada(const Contexto& contexto, double valor) {
+    if (EsDecimalCorto(valor, contexto.DígitosRedondeo))
+        return DevConstante(valor);
+    return PolinomioReal{{0, valor}};
+}
+
+Polinomio DevPotenciaDeX(double exponente) {
+    return PolinomioExacto{{{exponente, 1}}};
+}
+
+PolinomioReal AReal(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    if (exacto == nullptr)
+        return std::get<PolinomioReal>(p);
+    PolinomioReal real;
+    real.reserve(exacto->términos.size());
+    for (const auto& [exponente, coeficiente] : exacto->términos)
+        real.push_back({exponente, DevCociente(coeficiente, exacto->denominador)});
+    return real;
+}
+
+bool EsCero(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr ? exacto->términos.empty() : std::get<PolinomioReal>(p).empty();
+}
+
+bool EsConstante(const Polinomio& p) {
+    if (EsCero(p))
+        return true;
+    return std::visit(
+        [](const auto& valor) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(valor)>, PolinomioExacto>)
+                return valor.términos.size() == 1 && valor.términos.front().exponente == 0;
+            else
+                return valor.size() == 1 && valor.front().exponente == 0;
+        },
+        p);
+}
+
+bool EsUno(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr && EsConstante(p) && !EsCero(p) && exacto->denominador.EsUno() &&
+           exacto->términos.front().coeficiente.EsUno();
+}
+
+double DevGrado(const Polinomio& p) {
+    if (EsCero(p))
+        return 0;
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr ? exacto->términos.front().exponente
+                             : std::get<PolinomioReal>(p).front().exponente;
+}
+
+bool TieneExponentesNaturales(const Polinomio& p) {
+    const auto natural = [](const auto& t) {
+        return t.exponente >= 0 && NoTieneDecimales(t.exponente);
+    };
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr ? std::ranges::all_of(exacto->términos, natural)
+                             : std::ranges::all_of(std::get<PolinomioReal>(p), natural);
+}
+
+bool EsDeCoeficientesEnteros(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr && exacto->denominador.EsUno();
+}
+
+int SignoPrincipal(const Polinomio& p) {
+    if (EsCero(p))
+        return 0;
+    const PolinomioExacto* const exacto = SiExacto(p);
+    if (exacto != nullptr)
+        return exacto->términos.front().coeficiente.Signo();
+    return std::get<PolinomioReal>(p).front().coeficiente < 0 ? -1 : 1;
+}
+
+Polinomio SumaPolinomios(const Polinomio& p, const Polinomio& q) {
+    return Suma(p, q, 1);
+}
+
+Polinomio RestaPolinomios(const Polinomio& p, const Polinomio& q) {
+    return Suma(p, q, -1);
+}
+
+Polinomio MultiplicaPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
+    const PolinomioExacto* const a = SiExacto(p);
+    const PolinomioExacto* const b = SiExacto(q);
+    if (a == nullptr || b == nullptr)
+        return DevReal(Multiplica(contexto, AReal(p), AReal(q)));
+    return DevExacto(Multiplica(contexto, a->términos, b->términos),
+                     a->denominador * b->denominador);
+}
+
+Polinomio CambiaSigno(Polinomio p) {
+    if (auto* const exacto = std::get_if<PolinomioExacto>(&p)) {
+        for (TérminoPolinomio<Entero>& t : exacto->términos)
+            t.coeficiente.CambiaSigno();
+    } else {
+        for (TérminoPolinomio<double>& t : std::get<PolinomioReal>(p))
+            t.coeficiente = -t.coeficiente;
+    }
+    return p;
+}
+
+} // namespace quiralto

@@ -1,0 +1,179 @@
+// Lists of terms, the stuff of polynomials, with coefficients of either kind: whole numbers or
+// Doubles. A list in order has its highest exponent first and each exponent once.
+#pragma once
+
+#include "engine/base/contexto.h"
+#include "engine/numeros/entero.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+namespace quiralto {
+
+// More terms than this are run-time error 14: past every use, and far below what memory holds.
+inline constexpr std::size_t MáximoTérminosPolinomio = 65536;
+
+template <typename Coeficiente> struct TérminoPolinomio {
+    double exponente;
+    Coeficiente coeficiente;
+};
+template <typename Coeficiente>
+using TérminosPolinomio = std::vector<TérminoPolinomio<Coeficiente>>;
+
+// Up to here every whole number is a Double.
+inline constexpr double MáximoEnteroExacto = 9007199254740992;
+
+inline bool NoTieneDecimales(double valor) {
+    return valor == std::floor(valor);
+}
+
+// Above the whole numbers that a Double tells apart, an exponent that is off would collect terms
+// that are not alike: run-time error 6.
+inline double SumaExponentes(double a, double b) {
+    const double suma = a + b;
+    if (std::fabs(suma) >= MáximoEnteroExacto && (suma - a != b || suma - b != a))
+        throw ErrorEjecución(Desbordamiento);
+    return suma;
+}
+
+inline double SumaExponentes(double a, double b, double c) {
+    return SumaExponentes(SumaExponentes(a, b), c);
+}
+
+// --- The two kinds of coefficient
+
+inline bool EsNulo(double c) {
+    return c == 0;
+}
+inline bool EsNulo(const Entero& c) {
+    return c.EsCero();
+}
+inline void SumaProducto(double& suma, double a, double b) {
+    suma += a * b;
+}
+inline void SumaProducto(Entero& suma, const Entero& a, const Entero& b) {
+    suma.SumaProducto(a, b);
+}
+
+inline void CompruebaCantidad(std::size_t términos) {
+    if (términos > MáximoTérminosPolinomio)
+        throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+}
+
+// Adds up neighbours of equal exponents in an ordered list.
+template <typename C> void Agrupa(TérminosPolinomio<C>& términos) {
+    std::size_t escritos = 0;
+    for (std::size_t i = 0; i < términos.size(); ++i) {
+        if (escritos > 0 && términos[escritos - 1].exponente == términos[i].exponente)
+            términos[escritos - 1].coeficiente += términos[i].coeficiente;
+        else if (escritos++ != i)
+            términos[escritos - 1] = std::move(términos[i]);
+    }
+    términos.erase(términos.begin() + static_cast<std::ptrdiff_t>(escritos), términos.end());
+}
+
+template <typename C> void Ordena(TérminosPolinomio<C>& términos) {
+    std::ranges::stable_sort(términos, std::ranges::greater{}, &TérminoPolinomio<C>::exponente);
+}
+
+// p * factorP + q * factorQ, one pass over both.
+template <typename C>
+TérminosPolinomio<C> Combina(const TérminosPolinomio<C>& p, const C& factorP,
+                             const TérminosPolinomio<C>& q, const C& factorQ) {
+    TérminosPolinomio<C> suma;
+    suma.reserve(p.size() + q.size());
+    auto i = p.begin();
+    auto j = q.begin();
+    while (i != p.end() || j != q.end()) {
+        if (j == q.end() || (i != p.end() && i->exponente > j->exponente)) {
+            suma.push_back({i->exponente, i->coeficiente * factorP});
+            ++i;
+        } else if (i == p.end() || j->exponente > i->exponente) {
+            suma.push_back({j->exponente, j->coeficiente * factorQ});
+            ++j;
+        } else {
+            C coeficiente = i->coeficiente * factorP;
+            SumaProducto(coeficiente, j->coeficiente, factorQ);
+            suma.push_back({i->exponente, std::move(coeficiente)});
+            ++i;
+            ++j;
+        }
+    }
+    return suma;
+}
+
+// Calls `par(i, j)` for every pair, and the watcher now and then.
+template <typename C, typename Par>
+void RecorrePares(Contexto& contexto, const TérminosPolinomio<C>& p, const TérminosPolinomio<C>& q,
+                  Par par) {
+    constexpr std::size_t ParesEntreAvisos = 4096;
+    std::size_t pares = 0;
+    for (const TérminoPolinomio<C>& a : p) {
+        for (const TérminoPolinomio<C>& b : q) {
+            par(a, b);
+            if (++pares % ParesEntreAvisos == 0)
+                contexto.Vigila();
+        }
+    }
+}
+
+// Cells of a product whose exponents go in steps of one; 0 where they do not, or are too far apart.
+template <typename C>
+std::size_t DevCeldas(const TérminosPolinomio<C>& p, const TérminosPolinomio<C>& q) {
+    constexpr double MáximoCeldas = 262144;
+    constexpr double CeldasPorPar = 8;
+    const double base = q.back().exponente;
+    const auto conPasoUno = [](const TérminosPolinomio<C>& términos) {
+        return std::ranges::all_of(términos, [&](const TérminoPolinomio<C>& t) {
+            return NoTieneDecimales(t.exponente - términos.back().exponente);
+        });
+    };
+    const double celdas =
+        p.front().exponente - p.back().exponente + (q.front().exponente - base) + 1;
+    const double pares = static_cast<double>(p.size()) * static_cast<double>(q.size());
+    if (!(celdas <= std::min(MáximoCeldas, 64 + CeldasPorPar * pares)) || !conPasoUno(p) ||
+        !conPasoUno(q))
+        return 0;
+    return static_cast<std::size_t>(celdas);
+}
+
+template <typename C>
+TérminosPolinomio<C> Multiplica(Contexto& contexto, const TérminosPolinomio<C>& p,
+                                const TérminosPolinomio<C>& q) {
+    TérminosPolinomio<C> producto;
+    if (p.empty() || q.empty())
+        return producto;
+    if (const std::size_t celdas = DevCeldas(p, q)) {
+        std::vector<C> suma(celdas, C(0));
+        const double baseP = p.back().exponente;
+        const double baseQ = q.back().exponente;
+        RecorrePares(
+            contexto, p, q, [&](const TérminoPolinomio<C>& a, const TérminoPolinomio<C>& b) {
+                const double celda = (a.exponente - baseP) + (b.exponente - baseQ);
+                SumaProducto(suma[static_cast<std::size_t>(celda)], a.coeficiente, b.coeficiente);
+            });
+        for (std::size_t i = celdas; i-- > 0;)
+            if (!EsNulo(suma[i]))
+                producto.push_back(
+                    {SumaExponentes(baseP, baseQ, static_cast<double>(i)), std::move(suma[i])});
+        return producto;
+    }
+    std::unordered_map<double, std::size_t> lugares;
+    RecorrePares(contexto, p, q, [&](const TérminoPolinomio<C>& a, const TérminoPolinomio<C>& b) {
+        const double exponente = SumaExponentes(a.exponente, b.exponente);
+        const auto [lugar, nuevo] = lugares.try_emplace(exponente, producto.size());
+        if (nuevo) {
+            CompruebaCantidad(producto.size());
+            producto.push_back({exponente, C(0)});
+        }
+        SumaProducto(producto[lugar->second].coeficiente, a.coeficiente, b.coeficiente);
+    });
+    Ordena(producto);
+    return producto;
+}
+
+} // namespace quiralto

@@ -1,0 +1,138 @@
+#include "engine/sistemas/ecuacion_lineal.h"
+
+#include "engine/desarrollo/desarrollo.h"
+#include "engine/evaluacion/evalua.h"
+#include "engine/lenguaje/compila.h"
+#include "engine/numeros/numero.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace quiralto {
+namespace {
+
+constexpr std::string_view PrefijoSln = "SLN(";
+
+bool RechazaNoLineal(Contexto& contexto) {
+    contexto.Avisa("Se ha hallado una expresión que no "
+                   "es una ecuación lineal o esta no tiene solución");
+    return false;
+}
+
+// The index of a lone unknown, rounded to a whole number (a half to the even one); 0 where it is no
+// number in the range.
+int DevIndiceSln(std::string_view base) {
+    const std::string_view índice = base.substr(PrefijoSln.size());
+    const NúmeroLeído leído = LeeNúmero(índice);
+    const double entero = std::nearbyint(leído.valor);
+    const bool número = leído.longitud + 1 == índice.size();
+    return número && entero >= 1 && entero <= MáximoÍndiceSln ? static_cast<int>(entero) : 0;
+}
+
+// Whether the base is one call of SLN and nothing else.
+bool EsIncógnita(const Base& base) {
+    return (base.clase == ClaseBase::Variable || base.clase == ClaseBase::Función) &&
+           base.texto.starts_with(PrefijoSln);
+}
+
+bool EsX(const Base& base) {
+    return base.clase == ClaseBase::Variable && base.texto == "X";
+}
+
+// Whether a constant's text names X or an unknown; the X of EXP is none.
+bool HayVariable(std::string_view texto) {
+    if (texto.find(PrefijoSln) != std::string_view::npos)
+        return true;
+    for (std::size_t i = texto.find('X'); i != std::string_view::npos; i = texto.find('X', i + 1))
+        if (i == 0 || texto[i - 1] != 'E')
+            return true;
+    return false;
+}
+
+class Lector {
+public:
+    Lector(Contexto& contexto, const TablaSímbolos& tabla) : contexto_(contexto), tabla_(tabla) {}
+
+    bool SintaxisSln(const Términos& suma) {
+        for (const Término& término : suma)
+            if (!LeeTérmino(término))
+                return false;
+        return hayIncógnitas_ || RechazaNoLineal(contexto_);
+    }
+
+    EcuaciónLineal Toma() {
+        EcuaciónLineal ecuación;
+        ecuación.independiente = independiente_;
+        for (int i = 1; i <= MáximoÍndiceSln; ++i)
+            if (const double coeficiente = coeficientes_[static_cast<std::size_t>(i)];
+                coeficiente != 0)
+                ecuación.términos.push_back({i, coeficiente});
+        return ecuación;
+    }
+
+private:
+    bool LeeTérmino(const Término& término) {
+        double coeficiente = término.coeficiente;
+        int índice = 0;
+        for (const Factor& factor : término.literal) {
+            const Base& base = tabla_.BaseDe(factor.símbolo);
+            if (!tabla_.EsLlano(factor.símbolo) || factor.exponente != 1 || EsX(base))
+                return RechazaNoLineal(contexto_);
+            if (EsIncógnita(base)) {
+                if (!IndiceCorrectoSln(base.texto))
+                    return false;
+                if (índice != 0)
+                    return RechazaNoLineal(contexto_);
+                índice = DevIndiceSln(base.texto);
+                continue;
+            }
+            const std::optional<double> valor = DevConstante(base);
+            if (!valor)
+                return RechazaNoLineal(contexto_);
+            coeficiente = CompruebaFinito(coeficiente * *valor);
+        }
+        if (índice == 0) {
+            independiente_ = CompruebaFinito(independiente_ - coeficiente);
+        } else {
+            double& suma = coeficientes_[static_cast<std::size_t>(índice)];
+            suma = CompruebaFinito(suma + coeficiente);
+            hayIncógnitas_ = true;
+        }
+        return true;
+    }
+
+    bool IndiceCorrectoSln(std::string_view base) {
+        if (DevIndiceSln(base) != 0)
+            return true;
+        contexto_.Avisa("El índice de una variable no está en el rango 1 a 256");
+        return false;
+    }
+
+    std::optional<double> DevConstante(const Base& base) {
+        if (HayVariable(base.texto))
+            return std::nullopt;
+        Programa programa = CompilaExpresión(base.texto);
+        return DevValor(contexto_, programa, 0);
+    }
+
+    Contexto& contexto_;
+    const TablaSímbolos& tabla_;
+    std::array<double, MáximoÍndiceSln + 1> coeficientes_{};
+    double independiente_ = 0;
+    bool hayIncógnitas_ = false;
+};
+
+} // namespace
+
+std::optional<EcuaciónLineal> LeeEcuaciónLineal(Contexto& contexto, std::string_view expresión) {
+    TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
+    tabla.soloPorLetra = true;
+    const Términos suma = DesarrollaEnTérminos(tabla, CompilaExpresión(expresión));
+    Lector lector(contexto, tabla);
+    if (!lector.SintaxisSln(suma))
+        return std::nullopt;
+    return lector.Toma();
+}
+
+} // namespace quiralto

@@ -1,0 +1,387 @@
+#include "engine/desarrollo/separa.h"
+#include "engine/lenguaje/deriva.h"
+#include "tests/apoyo.h"
+#include "tests/engine/desarrollo/desarrolla.h"
+
+#include <gtest/gtest.h>
+
+namespace quiralto {
+namespace {
+
+struct Caso {
+    const char* texto;
+    const char* completo;
+    const char* simplificado;
+};
+
+// Both expansions, and that they stay when they are expanded again.
+void Comprueba(const Caso& caso) {
+    Banco banco;
+    EXPECT_EQ(Desarrolla(banco.contexto, Clase::Completo, caso.texto), caso.completo) << caso.texto;
+    EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, caso.texto), caso.simplificado)
+        << caso.texto;
+    EXPECT_EQ(Desarrolla(banco.contexto, Clase::Completo, caso.completo), caso.completo);
+    EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, caso.simplificado),
+              caso.simplificado);
+}
+
+TEST(Desarrollo, RecogeYOrdenaLosTérminos) {
+    const Caso casos[] = {
+        {"5", "5", "5"},
+        {"X", "X", "X"},
+        {"-X^2+3", "-X^2+3", "-X^2+3"},
+        {"X*SIN(X)+SIN(X)*X", "2*X*SIN(X)", "2*X*SIN(X)"},
+        {"X^2*X-X^3", "0", "0"},
+        {"X^2+X+1+X", "2*X+X^2+1", "2*X+X^2+1"},
+        {"(X+1)^3", "X^3+3*X^2+3*X+1", "X^3+3*X^2+3*X+1"},
+        {"(X-1)*(X+1)", "X^2-1", "X^2-1"},
+        {"1*X^1", "X", "X"},
+        {"X^0", "1", "1"},
+        {"0*X", "0", "0"},
+        {"SIN(2-X)+SIN(-X+2)", "2*SIN(-X+2)", "2*SIN(-X+2)"},
+        {"SIN((X+1)^2)", "SIN(X^2+2*X+1)", "SIN(X^2+2*X+1)"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
+TEST(Desarrollo, DejaLosCocientesDondeCadaClaseLosQuiere) {
+    const Caso casos[] = {
+        {"X/2+X^2/3", "(3*X+2*X^2)/6", ".5*X+.33333333*X^2"},
+        {"1/X+1/(X+1)", "(2*X+1)/(X^2+X)", "1/X+1/(X+1)"},
+        {"X/3+X/7", "10*X/21", ".47619048*X"},
+        {"(X^2-1)/(X-1)", "X+1", "X+1"},
+        {"(2*X+2)/(4*X+4)", "1/2", ".5"},
+        {"X/(2*X)", "1/2", ".5"},
+        {"((X+1)*(X+2))/((X+1)*(X+3))", "(X+2)/(X+3)", "(X+2)/(X+3)"},
+        {"(X+1)*SIN(X)/((X+1)*COS(X))", "SIN(X)/COS(X)", "SIN(X)/COS(X)"},
+        {"SIN(2-X)/SIN(-X+2)", "1", "1"},
+        {"2*(X+1)/(X+3)", "(2*X+2)/(X+3)", "(2*X+2)/(X+3)"},
+        {"-(X+1)/(X+3)", "(-X-1)/(X+3)", "-(X+1)/(X+3)"},
+        {"1/(2*X)+1/(2*X)", "1/X", "1/X"},
+        {"3/X+2/X", "5/X", "5/X"},
+        {"X/.5", "2*X", "2*X"},
+        {"1.5/(.5*X)", "3/X", "3/X"},
+        {"1/(1+1/(1+1/X))", "(X+1)/(2*X+1)", "1/(1+1/(1+1/X))"},
+        {"(X+1/X)^3", "(X^6+3*X^4+3*X^2+1)/X^3", "X^3+3*X+3/X+1/X^3"},
+        {"X/(X+1)+1/(X+1)", "1", "X/(X+1)+1/(X+1)"},
+        {"SIN((X+1)/2)", "SIN((X+1)/2)", "SIN(.5*X+.5)"},
+        {"1/(.00001^2*X)", "10000000000/X", "10000000000/X"},
+        {"1/(X/3)", "3/X", "3/X"},
+        {"(X+1)/(X/3)", "(3*X+3)/X", "(3*X+3)/X"},
+        {"1/(X/7+1)", "7/(X+7)", "7/(X+7)"},
+        {"1/(X/1234.567)", "1234567/(1000*X)", "1234.567/X"},
+        {"(306^-2)^-3/(2*X)", "410486201821728/X", "410486201821728/X"},
+        {"(X-1)/(X^-3-X^-2)", "-X^3", "-X^3"},
+        {"(X^2-1)/(X-X^-1)", "X", "X"},
+        {"(X+4)/-X", "(-X-4)/X", "-(X+4)/X"},
+        {"2-(X+4)/-X", "(3*X+4)/X", "2+(X+4)/X"},
+        {"5/(((3^X-216)/(3+X)+.5)/2)", "(30+10*X)/(-214.5+3^X+.5*X)", "5/((.5*3^X-108)/(3+X)+.25)"},
+        {"EXP(-65)/EXP(-130)", "EXP(-65)/EXP(-130)", "EXP(-65)/EXP(-130)"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
+TEST(Desarrollo, CalculaOConservaLasPotencias) {
+    const Caso casos[] = {
+        {"2^3^2", "64", "64"},
+        {"2^-1", "1/2", ".5"},
+        {"0^0", "1", "1"},
+        {"2^.5", "2^.5", "2^.5"},
+        {"(-8)^(1/3)", "(-8)^(1/3)", "(-8)^.33333333"},
+        {"X^-2", "1/X^2", "X^-2"},
+        {"X^(1/3)", "X^(1/3)", "X^.33333333"},
+        {"X^.5*X^.5", "X", "X"},
+        {"(X^2)^.5", "(X^2)^.5", "(X^2)^.5"},
+        {"(X^.5)^.5", "X^.25", "X^.25"},
+        {"(X+1)^-2", "1/(X^2+2*X+1)", "(X+1)^-2"},
+        {"(X+1)^.5*(X+1)^.5", "X+1", "X+1"},
+        {"2^X*2^-X", "1", "1"},
+        {"2^(X+3)", "2^(X+3)", "2^(X+3)"},
+        {"2^X*X", "X*2^X", "X*2^X"},
+        {"X^(X+3)*X^2", "X^(X+5)", "X^(X+5)"},
+        {"X^-X", "X^-X", "X^-X"},
+        {"2^(-X^2)", "2^(-X^2)", "2^(-X^2)"},
+        {"X^((X+1)/3)", "X^((X+1)/3)", "X^(.33333333*X+.33333333)"},
+        {"X*X^(2/X)", "X^((2+X)/X)", "X^(2/X+1)"},
+        {"(1/X)^-1", "X", "X"},
+        {"(X+1/3)^2", "(9*X^2+6*X+1)/9", "X^2+.66666667*X+.11111111"},
+        {"X^(4/3+2-4-2.5*X)", "X^((-15*X-4)/6)", "X^(-2.5*X-.66666667)"},
+        {"(X^(-4/-6)*X)^-6*X", "1/X^9", "X^-9"},
+        {"(X/X^(1/3))^3", "X^2", "X^2"},
+        {"(1/(X+1)/X^(1/3))^3", "1/(X^4+3*X^3+3*X^2+X)", "1/(X^4+3*X^3+3*X^2+X)"},
+        {"X^-(X/X/X/X^(X/-X/X))", "X^(-X^((1-X)/X))", "X^(-1/X^(-1/X+1))"},
+        {"((2*X)^-.5)^2", ".5/X", ".5*X^-1"},
+        {"(2*X)^X*(2*X)^(-1-X)*X", ".5", ".5"},
+        {"(1/X+1)^(2/3)*(1/X+1)^(1/3)+X", "(1+X+X^2)/X", "1/X+1+X"},
+        {"2^-48-5", "-5", "-5"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
+// With many digits a third must not pass for a decimal, nor what is nearly 1 for another number.
+TEST(Desarrollo, NoConfundeLosTerciosConDecimales) {
+    const struct {
+        const char* texto;
+        const char* simplificado;
+    } casos[] = {
+        {"X/3+X/3+X/3", "X"}, {"1/(X/3)", "3/X"},     {"1/(X/27)", "27/X"},
+        {"1/7^-2", "49"},     {"X^2/(X/49)", "49*X"}, {"1/(X/3+1/7)", "21/(7*X+3)"},
+    };
+    for (const int dígitos : {8, 11, 12, 14, 15})
+        for (const auto& caso : casos) {
+            Banco banco;
+            banco.contexto.DígitosRedondeo = dígitos;
+            EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, caso.texto),
+                      caso.simplificado)
+                << caso.texto << ", " << dígitos;
+        }
+}
+
+TEST(Desarrollo, OrdenaLasLetrasPorElAlfabeto) {
+    const Caso casos[] = {
+        {"(A+B)^2", "A^2+2*A*B+B^2", "A^2+2*A*B+B^2"},
+        {"(X-D)*(A+B)", "A*X+B*X-A*D-B*D", "A*X+B*X-A*D-B*D"},
+        {"A/B*C", "A*C/B", "A*C/B"},
+        {"A/B/C", "A/(B*C)", "A/(B*C)"},
+        {"X*A", "A*X", "A*X"},
+        {"(X^2-A^2)/(X-A)", "A+X", "A+X"},
+        {"((X+A)*(X+B))/((X+A)*(X-B))", "(B+X)/(-B+X)", "(B+X)/(-B+X)"},
+        {"(A*X)^.5", "(A*X)^.5", "(A*X)^.5"},
+    };
+    for (const Caso& caso : casos) {
+        Banco banco;
+        EXPECT_EQ(Desarrolla(banco.contexto, Clase::Completo, ConSln(caso.texto)),
+                  ConSln(caso.completo))
+            << caso.texto;
+        EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, ConSln(caso.texto)),
+                  ConSln(caso.simplificado))
+            << caso.texto;
+    }
+}
+
+TEST(Desarrollo, TomaPorSemejantesLasLetrasDelMismoProducto) {
+    Banco banco;
+    // 65*84 = 70*78
+    EXPECT_EQ(Desarrolla(banco.contexto, Clase::Completo, "SLN(65)*SLN(84)+SLN(70)*SLN(78)"),
+              "2*SLN(70)*SLN(78)");
+}
+
+TEST(Desarrollo, CuentaLosTérminosDelMultinomio) {
+    Banco banco;
+    const std::string desarrollo =
+        Desarrolla(banco.contexto, Clase::Completo, ConSln("(A+B+C+D)^10"));
+    EXPECT_EQ(SeparaTérminos(desarrollo).size(), 286U);
+    EXPECT_NE(desarrollo.find("+25200*SLN(65)^3*SLN(66)^3*SLN(67)^2*SLN(68)^2+"),
+              std::string::npos);
+}
+
+TEST(Desarrollo, DaLosBinomiosExactos) {
+    Banco banco;
+    const std::string desarrollo = Desarrolla(banco.contexto, Clase::Simplificado, "(X+1)^50");
+    EXPECT_NE(desarrollo.find("+126410606437752*X^25+"), std::string::npos);
+    EXPECT_TRUE(desarrollo.ends_with("+1225*X^2+50*X+1"));
+}
+
+TEST(Desarrollo, EscribeDerivadasLegibles) {
+    const struct {
+        const char* f;
+        const char* derivada;
+    } casos[] = {
+        {"X^2", "2*X"},
+        {"SIN(X)^2", "2*COS(X)*SIN(X)"},
+        {"X*EXP(X)", "X*EXP(X)+EXP(X)"},
+        {"1/X", "-1/X^2"},
+        {"LOG(X)", "1/X"},
+        {"TAN(X)", "1/COS(X)^2"},
+        {"SQR(X^2+1)", "X/SQR(X^2+1)"},
+        {"X^X", "X^X*LOG(X)+X^X"},
+        {"LOG(X/9)", "1/X"},
+        {"LOG(X/7+1)", "1/(X+7)"},
+        {"SIN(X)/(X/9)", "(9*X*COS(X)-9*SIN(X))/X^2"},
+        {"(X^2+1)/(X-1)", "(X^2-2*X-1)/(X^2-2*X+1)"},
+        {"5", "0"},
+    };
+    for (const auto& caso : casos) {
+        Banco banco;
+        EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, Deriva(banco.contexto, caso.f)),
+                  caso.derivada)
+            << caso.f;
+    }
+}
+
+int DevError(Contexto& contexto, Clase clase, const std::string& texto) {
+    try {
+        Desarrolla(contexto, clase, texto);
+    } catch (const ErrorEjecución& error) {
+        return error.Número();
+    }
+    return 0;
+}
+
+TEST(Desarrollo, AcabaConUnErrorLoQueNoTieneValorONoCabe) {
+    const struct {
+        const char* texto;
+        int error;
+    } casos[] = {
+        {"1/0", DivisiónPorCero},
+        {"1/(X-X)", DivisiónPorCero},
+        {"0^-1", DivisiónPorCero},
+        {"9^9^9^9", Desbordamiento},
+        {"(1E+200*X)^2", Desbordamiento},
+        {"(SLN(65)+SLN(66)+SLN(67)+SLN(68)+SLN(69))^60", EspacioDeCadenasInsuficiente},
+        {"(SLN(65)+SLN(66)+SLN(67)+SLN(68)+SLN(69))^30*"
+         "(SLN(65)+SLN(66)+SLN(67)+SLN(68)+SLN(69))^30",
+         EspacioDeCadenasInsuficiente},
+    };
+    for (const auto& caso : casos)
+        for (const Clase clase : {Clase::Completo, Clase::Simplificado}) {
+            Banco banco;
+            EXPECT_EQ(DevError(banco.contexto, clase, caso.texto), caso.error) << caso.texto;
+        }
+}
+
+TEST(Desarrollo, SeCancela) {
+    Banco banco;
+    int preguntas = 0;
+    banco.vigilante.continúa = [&] { return ++preguntas < 100; };
+    EXPECT_THROW(Desarrolla(banco.contexto, Clase::Completo, ConSln("(A+B+C+D)^40*(A+B+C+D)^40")),
+                 OrdenCancelada);
+}
+
+// Twice the work with every level would not end.
+TEST(Desarrollo, LaDerivadaDeCocientesAnidadosNoSeMultiplica) {
+    constexpr int Profundidad = 20;
+    std::string seno = "X";
+    std::string cociente = "X";
+    std::string raíz = "X";
+    for (int i = 0; i < Profundidad; ++i) {
+        seno = "SIN(" + seno + ")/X";
+        cociente = "X/(1+" + cociente + ")";
+        raíz = "(1/(X+" + raíz + "))^.5";
+    }
+    for (const std::string& texto : {seno, cociente, raíz}) {
+        Banco banco;
+        int preguntas = 0;
+        banco.vigilante.continúa = [&] { return ++preguntas < 20'000; };
+        EXPECT_NO_THROW(
+            Desarrolla(banco.contexto, Clase::Simplificado, Deriva(banco.contexto, texto)))
+            << texto;
+    }
+}
+
+TEST(Desarrollo, NoSeHundeConLaProfundidad) {
+    constexpr int Profundidad = 2000;
+    std::string cociente = "X";
+    std::string seno = "X";
+    std::string raíz = "X";
+    for (int i = 0; i < Profundidad; ++i) {
+        cociente = "1/(1+" + cociente + ")";
+        seno = "SIN(" + seno + ")";
+        raíz = "(" + raíz + "+1)^.5";
+    }
+    for (const std::string& texto : {cociente, seno, raíz}) {
+        Banco banco;
+        EXPECT_EQ(DevError(banco.contexto, Clase::Simplificado, texto), 0);
+    }
+}
+
+TEST(SumaDesarrollo, PoneDelanteLosTérminosQueHallanSemejante) {
+    const struct {
+        const char* a;
+        const char* b;
+        const char* suma;
+    } casos[] = {
+        {"1+X", "X", "2*X+1"},
+        {"X*SIN(X)", "SIN(X)*X", "2*SIN(X)*X"},
+        {"X^2*X", "-X^3", "0"},
+        {"0", "X", "X"},
+        {"X", "0", "X"},
+        {".1*X", ".2*X", ".3*X"},
+        {"X^2+3*X-1", "X-X^2+5", "4*X+4"},
+        {"-X", "X^2", "-X+X^2"},
+        {"2/X", "3/X", "5/X"},
+        {"X", "(2*X)", "X+(2*X)"},
+    };
+    for (const auto& caso : casos) {
+        Banco banco;
+        EXPECT_EQ(SumaDesarrollo(banco.contexto, caso.a, caso.b), caso.suma) << caso.a;
+    }
+}
+
+TEST(MismaExpresión, ComparaPorLosValores) {
+    const struct {
+        const char* p;
+        const char* q;
+        bool misma;
+    } casos[] = {
+        {"X^2*X", "X^3", true},
+        {"(X+1)^2", "X^2+2*X+1", true},
+        {"X", "2*X", false},
+        {"SQR(-1-X^2)", "LOG(-1-X^2)", false}, // no value anywhere
+        {"SQR(-1-X^2)", "SQR(-1-X^2)", true},
+        {"X", "SQR(X)^2", false}, // one has a value where the other has none
+        {"X/X", "1", true},
+        {"X+.0001", "X", false},
+    };
+    for (const auto& caso : casos) {
+        Banco banco;
+        banco.contexto.generador.seed(11);
+        EXPECT_EQ(MismaExpresión(banco.contexto, caso.p, caso.q), caso.misma)
+            << caso.p << " y " << caso.q;
+        EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
+    }
+}
+
+TEST(Separa, CortaTérminosYFactores) {
+    EXPECT_EQ(SeparaTérminos("3*X^-2-(X+1)*SIN(X-1)+1.5E-07*X*-2"),
+              (std::vector<std::string>{"3*X^-2", "-(X+1)*SIN(X-1)", "+1.5E-07*X*-2"}));
+    EXPECT_EQ(SeparaTérminos("-X"), (std::vector<std::string>{"-X"}));
+    EXPECT_TRUE(SeparaTérminos("").empty());
+    EXPECT_EQ(SeparaFactores("3*X*SIN(X*2)*(X+1)^2"),
+              (std::vector<std::string>{"3", "X", "SIN(X*2)", "(X+1)^2"}));
+    EXPECT_EQ(SeparaFactores("-X*2"), (std::vector<std::string>{"-1", "X", "2"}));
+}
+
+TEST(Separa, SeparaElCoeficiente) {
+    const struct {
+        const char* término;
+        const char* coeficiente;
+        const char* literal;
+    } casos[] = {
+        {"3*X", "3", "X"},     {"+3*X", "3", "X"},  {"-3*X", "-3", "X"}, {"+X", "1", "X"},
+        {"-X", "-1", "X"},     {"X", "1", "X"},     {"7", "7", ""},      {"-.5*X^2", "-.5", "X^2"},
+        {"3.0*A", "3", "0*A"}, {"2^X", "1", "2^X"}, {"2/X", "2", "1/X"}, {"1E+20*X", "1E+20", "X"},
+    };
+    for (const auto& caso : casos) {
+        const TérminoSeparado separado = SeparaCoeficiente(caso.término);
+        EXPECT_EQ(separado.coeficiente, caso.coeficiente) << caso.término;
+        EXPECT_EQ(separado.literal, caso.literal) << caso.término;
+    }
+}
+
+TEST(Separa, SeparaLaPotencia) {
+    const struct {
+        const char* factor;
+        const char* base;
+        const char* exponente;
+    } casos[] = {
+        {"X", "X", "1"},
+        {"X^2", "X", "2"},
+        {"(X+1)^-2", "(X+1)", "-2"},
+        {"SIN(X^2)", "SIN(X^2)", "1"},
+        {"X+X^2", "X+X^2", "1"},
+        {"X*X^2", "X*X^2", "1"},
+        {"X^(X+3)", "X", "(X+3)"},
+    };
+    for (const auto& caso : casos) {
+        const FactorSeparado separado = SeparaPotencia(caso.factor);
+        EXPECT_EQ(separado.base, caso.base) << caso.factor;
+        EXPECT_EQ(separado.exponente, caso.exponente) << caso.factor;
+    }
+}
+
+} // namespace
+} // namespace quiralto

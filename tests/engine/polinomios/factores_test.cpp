@@ -1,0 +1,78 @@
+#include "engine/polinomios/factores.h"
+
+#include "tests/apoyo.h"
+
+#include <gtest/gtest.h>
+
+namespace quiralto {
+namespace {
+
+class Factorización : public testing::Test {
+protected:
+    std::string Factoriza(std::string_view texto, double a = -10, double b = 10) {
+        return FactorizaPolinomio(banco.contexto,
+                                  ReduceTérminos(banco.contexto, LeePolinomio(texto)), a, b,
+                                  (b - a) / 1000);
+    }
+    Banco banco;
+};
+
+TEST_F(Factorización, DaUnFactorPorCadaRaízDelIntervalo) {
+    const struct {
+        const char* p;
+        double a, b;
+        const char* factores;
+    } casos[] = {
+        {"X^2-1", -10, 10, "(X+1)*(X-1)"},
+        {"X^3-X", -10, 10, "(X+1)*X*(X-1)"},
+        {"X^2+X", -.5, 10, "X*(X+1)"},
+        {"2*X^2-2", -10, 10, "2*(X+1)*(X-1)"},
+        {"-X^2+1", -10, 10, "-(X+1)*(X-1)"},
+        {"-X", -10, 10, "-X"},
+        {".5*X-1", -10, 10, ".5*(X-2)"},
+        {"X^2-4", 0, 5, "(X-2)*(X+2)"},
+        {"X^2-4", 3, 5, "X^2-4"},
+        {"X^2-4", -2, 2, "(X+2)*(X-2)"},
+        {"3*X^3-3*X^2+X-1", -10, 10, "(X-1)*(3*X^2+1)"},
+        {"X^3-2", -10, 10, "(X-1.25992105)*(X^2+1.25992105*X+1.58740105)"},
+        {"X^2-2", -10, 10, "(X+1.41421356)*(X-1.41421356)"},
+        {"X^2-2*X+1", -10, 10, "(X-1)*(X-1)"},
+        {"X^2-.026*X+.000169", -10, 10, "(X-.013)*(X-.013)"},
+        {"X^3+X^2-X-1", -10, 10, "(X+1)*(X-1)*(X+1)"},
+        {"X^400", -10, 10, "X*(X^399)"},
+        {"X^1000001", -10, 10, "X*(X^1000000)"},
+        {"X^2+1", -10, 10, "X^2+1"},
+        {"5", -10, 10, "5"},
+        {"0", -10, 10, "0"},
+        {"X^2.5-X", -10, 10, "X^2.5-X"},
+        {"X-X^-1", -10, 10, "X-X^-1"},
+        {"1E+20*X-1E+20", -10, 10, "1E+20*(X-1)"},
+    };
+    for (const auto& caso : casos)
+        EXPECT_EQ(Factoriza(caso.p, caso.a, caso.b), caso.factores) << caso.p;
+    EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
+}
+
+TEST_F(Factorización, UnaRaízRepetidaSeHallaUnaSolaVez) {
+    EXPECT_EQ(Factoriza("X^6-6*X^5+15*X^4-20*X^3+15*X^2-6*X+1", .99, 1.01),
+              "(X-1)*(X^5-5*X^4+10*X^3-10*X^2+5*X-1)");
+    EXPECT_EQ(Factoriza("X^4-2*X^3+X^2"), "X*(X-1)*(X^2-X)");
+}
+
+TEST_F(Factorización, SiempreTermina) {
+    // Few digits: the rounded root stands far from the root; a step that is nearly nothing.
+    banco.contexto.DígitosRedondeo = 0;
+    EXPECT_EQ(Factoriza("4*X^2-1"), "4*(X+1)*X"); // what stands just below -.5 and .5, rounded
+    banco.contexto.DígitosRedondeo = 8;
+    EXPECT_EQ(Factoriza("X^2-1", 1 - 1e-13, 1 + 1e-13), "(X-1)*(X+1)");
+    EXPECT_EQ(Factoriza("X-1E+17", 0, 2e17), "(X-1E+17)");
+}
+
+TEST_F(Factorización, ElVigilanteLaCorta) {
+    int veces = 0;
+    banco.vigilante.continúa = [&] { return ++veces < 20; };
+    EXPECT_THROW(Factoriza("X^2-1"), OrdenCancelada);
+}
+
+} // namespace
+} // namespace quiralto
