@@ -18,7 +18,8 @@ public:
 struct Banco {
     Silencio silencio;
     SinVigilante vigilante;
-    Contexto contexto{silencio, vigilante};
+    Primos tabla{};
+    Contexto contexto{silencio, vigilante, tabla};
 };
 
 } // namespace quiralto::bench

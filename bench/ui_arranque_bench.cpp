@@ -56,7 +56,8 @@ void AbreQuiralto(int argc, char** argv, Reloj::rep comienzo, std::chrono::milli
     PreparaAplicación(aplicación);
     MensajesVentana mensajes;
     VigilanteVentana vigilante;
-    Contexto contexto(mensajes, vigilante);
+    Primos tabla{};
+    Contexto contexto(mensajes, vigilante, tabla);
     ImpresoraDelSistema impresora;
     const auto formulario = Form_Load(contexto, vigilante, impresora, retardo);
     MuestraYMide(*formulario, comienzo);

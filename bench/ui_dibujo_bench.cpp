@@ -82,7 +82,8 @@ private:
 
     SinMensajes mensajes_;
     SinVigilante vigilante_;
-    Contexto contexto_{mensajes_, vigilante_};
+    Primos tabla_{};
+    Contexto contexto_{mensajes_, vigilante_, tabla_};
     VentanaGráfica vista_{contexto_};
     EscenaGráfica escena_;
     int escala_;

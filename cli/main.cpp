@@ -168,7 +168,8 @@ int Principal(const std::vector<std::string>& palabras) {
         return RechazaUso(error);
     MensajesDeTerminal mensajes;
     SinVigilante vigilante;
-    Contexto contexto(mensajes, vigilante);
+    Primos tabla{};
+    Contexto contexto(mensajes, vigilante, tabla);
     contexto.DígitosRedondeo = opciones->cifras;
     Estado estado = SinMensajes;
     EjecutaConTrampa(contexto, [&] { estado = Ejecuta(contexto, *opciones); });

@@ -29,7 +29,8 @@ private:
 struct BancoDeFuzz {
     SinMensajes mensajes;
     Impaciente vigilante;
-    Contexto contexto{mensajes, vigilante};
+    Primos tabla{};
+    Contexto contexto{mensajes, vigilante, tabla};
 };
 
 inline void Exige(bool promesa, std::string_view cuál, std::string_view texto) {

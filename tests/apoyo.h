@@ -39,7 +39,8 @@ public:
 struct Banco {
     MensajesGrabados grabados;
     VigilanteDePrueba vigilante;
-    Contexto contexto{grabados, vigilante};
+    Primos tabla{};
+    Contexto contexto{grabados, vigilante, tabla};
 
     std::vector<Mensaje> TomaMensajes() { return std::exchange(grabados.mensajes, {}); }
 };

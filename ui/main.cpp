@@ -9,7 +9,8 @@ int main(int argc, char** argv) {
     quiralto::PreparaAplicación(aplicación);
     quiralto::MensajesVentana mensajes;
     quiralto::VigilanteVentana vigilante;
-    quiralto::Contexto contexto(mensajes, vigilante);
+    quiralto::Primos tabla{};
+    quiralto::Contexto contexto(mensajes, vigilante, tabla);
     quiralto::ImpresoraDelSistema impresora;
     const auto formulario = quiralto::Form_Load(contexto, vigilante, impresora);
     formulario->show();

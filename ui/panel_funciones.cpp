@@ -21,7 +21,7 @@ public:
 // Whether Sintaxis would accept the text; nothing is shown and nothing is set.
 bool EsFórmula(const Contexto& contexto, const QString& texto) {
     SinMensajes nadie;
-    Contexto callado(nadie, contexto.vigilante);
+    Contexto callado(nadie, contexto.vigilante, contexto.TablaPrimos);
     callado.DígitosRedondeo = contexto.DígitosRedondeo;
     std::string fórmula = DevUtf8(texto);
     return Sintaxis(callado, fórmula);

@@ -1,14 +1,15 @@
 // Everything that lives for the whole run of the program, in one object: made by main (or by a
-// test) and handed down by reference. Two contexts in one process do not know of each other.
+// test) and handed down by reference. Cheap to make: the table of primes is its host's. Two contexts
+// in one process do not know of each other.
 #pragma once
 
+#include "engine/base/azar.h"
 #include "engine/base/fallos.h"
 #include "engine/base/mensajes.h"
 #include "engine/base/tabla_primos.h"
 #include "engine/base/vigilante.h"
 
 #include <cstdint>
-#include <random>
 #include <string>
 #include <utility>
 
@@ -17,11 +18,16 @@ namespace quiralto {
 inline constexpr int MáximoDígitosRedondeo = 15;
 
 struct Contexto {
-    Contexto(Mensajes& mensajesDelAnfitrión, Vigilante& vigilanteDelAnfitrión)
-        : mensajes(mensajesDelAnfitrión), vigilante(vigilanteDelAnfitrión) {}
+    Contexto(Mensajes& mensajesDelAnfitrión, Vigilante& vigilanteDelAnfitrión,
+             Primos& tablaDelAnfitrión)
+        : mensajes(mensajesDelAnfitrión), vigilante(vigilanteDelAnfitrión),
+          TablaPrimos(tablaDelAnfitrión) {}
 
     Mensajes& mensajes;
     Vigilante& vigilante;
+
+    // All 0 until it is filled from its file.
+    Primos& TablaPrimos;
 
     // Decimal digits to which results and typed numbers are rounded, 0 to MáximoDígitosRedondeo.
     int DígitosRedondeo = 8;
@@ -34,10 +40,7 @@ struct Contexto {
     // and tests it after; the evaluator only ever sets it.
     std::int16_t ErrorCódigo = SinFallo;
 
-    // The table of primes; all 0 until it is filled from its file.
-    Primos TablaPrimos{};
-
-    std::mt19937_64 generador{std::random_device{}()};
+    Azar generador;
 
     void Avisa(std::string_view texto) { mensajes.Muestra(Icono::Exclamación, texto); }
 

@@ -82,7 +82,8 @@ QWidget* DevPresentación() {
 TEST(Arranque, MuestraLaPresentaciónYDejaLaVistaInicial) {
     MensajesGrabados grabados;
     VigilanteVentana vigilante;
-    Contexto contexto(grabados, vigilante);
+    Primos tabla{};
+    Contexto contexto(grabados, vigilante, tabla);
     contexto.DígitosRedondeo = 3;
     ImpresoraDePrueba impresora;
     bool vista = false;

@@ -80,7 +80,8 @@ protected:
     MensajesGrabados grabados;
     // No dialog however slow the machine is; its own tests make theirs.
     VigilanteVentana vigilante{std::chrono::hours(1)};
-    Contexto contexto{grabados, vigilante};
+    Primos tabla{};
+    Contexto contexto{grabados, vigilante, tabla};
     ImpresoraDePrueba impresora;
     frmGráficas formulario{contexto, vigilante, impresora};
     QPlainTextEdit& txtSalida = Busca<QPlainTextEdit>("txtSalida");

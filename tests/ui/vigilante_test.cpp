@@ -79,7 +79,8 @@ private:
 TEST(VigilanteVentana, UnaOrdenCanceladaDejaLaHojaYNoEmpiezaOtraDebajo) {
     VigilanteVentana vigilante(50ms);
     MensajesLentos mensajes(vigilante);
-    Contexto contexto(mensajes, vigilante);
+    Primos tabla{};
+    Contexto contexto(mensajes, vigilante, tabla);
     ImpresoraDePrueba impresora;
     frmGráficas formulario(contexto, vigilante, impresora);
     formulario.show();

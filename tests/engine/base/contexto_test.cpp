@@ -42,8 +42,8 @@ TEST(Contexto, DosContextosNoSabenElUnoDelOtro) {
 TEST(Contexto, CadaUnoTieneSuAzar) {
     Banco uno;
     Banco otro;
-    uno.contexto.generador.seed(7);
-    otro.contexto.generador.seed(7);
+    uno.contexto.generador.Siembra(7);
+    otro.contexto.generador.Siembra(7);
     Programa programa = CompilaExpresión("SLN(X)");
     const double primero = EvalúaPrograma(uno.contexto, programa, 0);
     EvalúaPrograma(uno.contexto, programa, 0);

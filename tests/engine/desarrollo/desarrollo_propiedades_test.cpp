@@ -30,7 +30,7 @@ int CompruebaAlAzar(std::uint64_t semilla, std::uint64_t cuántas,
         generador.funciones = funciones;
         generador.conCadenasDePotencias = false;
         Banco banco;
-        banco.contexto.generador.seed(i);
+        banco.contexto.generador.Siembra(i);
         std::string texto = generador.Expresión(2 + i % 7);
         EXPECT_TRUE(Sintaxis(banco.contexto, texto)) << texto;
         for (const Clase clase : {Clase::Completo, Clase::Simplificado}) {

@@ -328,7 +328,7 @@ TEST(MismaExpresión, ComparaPorLosValores) {
     };
     for (const auto& caso : casos) {
         Banco banco;
-        banco.contexto.generador.seed(11);
+        banco.contexto.generador.Siembra(11);
         EXPECT_EQ(MismaExpresión(banco.contexto, caso.p, caso.q), caso.misma)
             << caso.p << " y " << caso.q;
         EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);

@@ -221,10 +221,10 @@ void CompruebaBloque(const std::string& texto, const std::vector<double>& equis)
     std::vector<double> valores(equis.size(), 12345);
     std::vector<std::int16_t> fallos(equis.size(), 99);
     banco.contexto.ErrorCódigo = 77;
-    banco.contexto.generador.seed(1);
+    banco.contexto.generador.Siembra(1);
     EvalúaBloque(banco.contexto, programa, equis, valores, fallos);
     ASSERT_EQ(banco.contexto.ErrorCódigo, 77) << texto;
-    banco.contexto.generador.seed(1);
+    banco.contexto.generador.Siembra(1);
     Programa copia = programa;
     for (std::size_t i = 0; i < equis.size(); ++i) {
         banco.contexto.ErrorCódigo = SinFallo;

@@ -1,0 +1,37 @@
+// The source of random numbers: one word of state, cheap to make, to copy and to start anew.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <random>
+
+namespace quiralto {
+
+// SplitMix64 (Steele, Lea and Flood, "Fast splittable pseudorandom number generators", 2014), as a
+// generator for the distributions of <random>.
+class Azar {
+public:
+    using result_type = std::uint64_t;
+
+    // Every run of the program draws other numbers.
+    Azar() {
+        std::random_device fuente;
+        estado_ = std::uint64_t{fuente()} << 32 | fuente();
+    }
+
+    void Siembra(std::uint64_t semilla) { estado_ = semilla; }
+
+    static constexpr result_type min() { return 0; }
+    static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
+    result_type operator()() {
+        std::uint64_t z = estado_ += 0x9E3779B97F4A7C15U;
+        z = (z ^ z >> 30) * 0xBF58476D1CE4E5B9U;
+        z = (z ^ z >> 27) * 0x94D049BB133111EBU;
+        return z ^ z >> 31;
+    }
+
+private:
+    std::uint64_t estado_;
+};
+
+} // namespace quiralto
