@@ -1,5 +1,6 @@
 #include "engine/polinomios/polinomio.h"
 
+#include "engine/lenguaje/termino_texto.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
@@ -49,41 +50,22 @@ Polinomio Suma(const Polinomio& p, const Polinomio& q, std::int64_t signo) {
 
 // --- Text
 
-// A sign that neither begins the text nor stands behind "^" or an exponent letter.
-bool EsFrontera(std::string_view texto, std::size_t i) {
-    return (texto[i] == '+' || texto[i] == '-') && i > 0 && texto[i - 1] != '^' &&
-           texto[i - 1] != 'E';
-}
-
-TérminoPolinomio<double> LeeTérmino(std::string_view término) {
-    double coeficiente = 0;
-    if (término.starts_with("+X") || término.starts_with("X^") || término == "X")
-        coeficiente = 1;
-    else if (término.starts_with("-X"))
-        coeficiente = -1;
-    else
-        coeficiente = Val(término);
+// The power of X that a term holds: 0 without an X.
+double LeeExponente(std::string_view término) {
     const std::size_t x = término.find('X');
     if (x == std::string_view::npos)
-        return {0, coeficiente};
+        return 0;
     const std::string_view trasX = término.substr(x + 1);
-    return {trasX.empty() ? 1 : Val(trasX.substr(1)), coeficiente};
+    return trasX.empty() ? 1 : Val(trasX.substr(1));
 }
 
-void EscribeTérmino(std::string& texto, double coeficiente, double exponente) {
-    if (coeficiente > 0 && !texto.empty())
-        texto += '+';
-    if (exponente == 0) {
-        texto += TextoNúmero(coeficiente);
-        return;
-    }
-    if (coeficiente == -1)
-        texto += '-';
-    else if (coeficiente != 1)
-        (texto += TextoNúmero(coeficiente)) += '*';
-    texto += 'X';
+std::string DevLiteral(double exponente) {
+    if (exponente == 0)
+        return {};
+    std::string literal = "X";
     if (exponente != 1)
-        (texto += '^') += TextoNúmero(exponente);
+        EscribeNúmero(literal += '^', exponente);
+    return literal;
 }
 
 } // namespace
@@ -92,13 +74,9 @@ void EscribeTérmino(std::string& texto, double coeficiente, double exponente) {
 
 TérminosPolinomio<double> LeePolinomio(std::string_view texto) {
     TérminosPolinomio<double> términos;
-    std::size_t comienzo = 0;
-    for (std::size_t i = 1; i <= texto.size(); ++i) {
-        if (i != texto.size() && !EsFrontera(texto, i))
-            continue;
-        términos.push_back(LeeTérmino(texto.substr(comienzo, i - comienzo)));
-        comienzo = i;
-    }
+    RecorreTérminos(texto, [&](std::string_view término) {
+        términos.push_back({LeeExponente(término), LeeTérmino(término).coeficiente});
+    });
     return términos;
 }
 
@@ -116,8 +94,8 @@ std::string EscribePolinomio(const Contexto& contexto, const TérminosPolinomio<
     std::string texto;
     for (const auto& [exponente, coeficiente] : términos) {
         const double redondeado = Redondea(coeficiente, contexto.DígitosRedondeo);
-        if (redondeado != 0)
-            EscribeTérmino(texto, redondeado, Redondea(exponente, contexto.DígitosRedondeo));
+        EscribeTérmino(texto, redondeado,
+                       DevLiteral(Redondea(exponente, contexto.DígitosRedondeo)));
     }
     return texto.empty() ? "0" : texto;
 }
