@@ -28,10 +28,12 @@ public:
     Derivador(Contexto& contexto, std::string_view f)
         : contexto_(contexto), f_(f), operadores_(f) {}
 
-    std::string Deriva() {
+    std::string Deriva(const ObservadorDeRondas& observa) {
         Marca({0, f_.size(), 0});
         Apila();
         while (!pendientes_.empty()) {
+            if (observa && pendientes_.back().marcado)
+                observa(DevRonda());
             const Pendiente siguiente = pendientes_.back();
             pendientes_.pop_back();
             if (!siguiente.marcado) {
@@ -62,6 +64,17 @@ private:
         if (escrito_.size() + texto.size() > MáximoTexto)
             throw ErrorEjecución(EspacioDeCadenasInsuficiente);
         escrito_ += texto;
+    }
+
+    // The text as it stands: what is written and, from the top of the stack down, what waits.
+    std::string DevRonda() const {
+        std::string texto = escrito_;
+        for (auto p = pendientes_.rbegin(); p != pendientes_.rend(); ++p) {
+            texto += p->marcado ? "D(" : "";
+            texto += p->marcado ? Texto(p->trozo) : p->literal;
+            texto += p->marcado ? ")D" : "";
+        }
+        return ResuelveMarcas(texto);
     }
 
     // The result of a rule, piece by piece: a text as it stands, or a piece still to be derived.
@@ -312,9 +325,9 @@ void Derivador::DerivaArcoseno(const Trozo& u) {
 
 } // namespace
 
-std::string Deriva(Contexto& contexto, std::string_view f) {
+std::string Deriva(Contexto& contexto, std::string_view f, const ObservadorDeRondas& observa) {
     const std::string texto = EncierraBasesConSigno(f);
-    return SimplificaSignos(ResuelveMarcas(Derivador(contexto, texto).Deriva()));
+    return SimplificaSignos(ResuelveMarcas(Derivador(contexto, texto).Deriva(observa)));
 }
 
 } // namespace quiralto

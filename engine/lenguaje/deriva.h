@@ -3,10 +3,15 @@
 
 #include "engine/base/contexto.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
 namespace quiralto {
+
+// Is shown the text as it stands before each round, with "D(" u ")D" for what is still to be
+// derived; a round rewrites the first of these.
+using ObservadorDeRondas = std::function<void(const std::string& texto)>;
 
 // The derivative of a text that Sintaxis has accepted, in the same language. Only signs are folded;
 // tidying is the business of the expansion. The rules split a text, in this order, at its first
@@ -25,6 +30,6 @@ namespace quiralto {
 //
 // Faults: run-time error 14 for a derivative past MáximoTexto or an input of more than two
 // million operators; 5 for a text that is not of the language.
-std::string Deriva(Contexto& contexto, std::string_view f);
+std::string Deriva(Contexto& contexto, std::string_view f, const ObservadorDeRondas& observa = {});
 
 } // namespace quiralto

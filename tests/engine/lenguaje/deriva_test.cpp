@@ -24,6 +24,28 @@ struct Fila {
     const char* derivada;
 };
 
+TEST(Deriva, EnseñaElTextoDeCadaRonda) {
+    const struct {
+        const char* texto;
+        std::vector<std::string> rondas;
+    } casos[] = {
+        {"5", {"D(5)D"}},
+        {"X^2", {"D(X^2)D", "2*X^(2-1)*D(X)D"}},
+        {"X*SIN(X)",
+         {"D(X*SIN(X))D", "(X*D(SIN(X))D+SIN(X)*D(X)D)", "(X*D(X)D*COS(X)+SIN(X)*D(X)D)",
+          "(X*1*COS(X)+SIN(X)*D(X)D)"}},
+        {"X-COS(X)", {"D(X-COS(X))D", "(D(X)D-D(COS(X))D)", "(1-D(COS(X))D)", "(1--D(X)D*SIN(X))"}},
+    };
+    for (const auto& [texto, esperadas] : casos) {
+        Banco banco;
+        std::vector<std::string> rondas;
+        const std::string derivada =
+            Deriva(banco.contexto, texto, [&](const std::string& r) { rondas.push_back(r); });
+        EXPECT_EQ(rondas, esperadas) << texto;
+        EXPECT_EQ(derivada, DerivadaDe(texto));
+    }
+}
+
 TEST(Deriva, EscribeCadaRegla) {
     const Fila filas[] = {
         {"X", "1"},
