@@ -13,20 +13,6 @@
 namespace quiralto {
 namespace {
 
-class SinMensajes : public Mensajes {
-public:
-    void Muestra(Icono, std::string_view) override {}
-};
-
-// Whether Sintaxis would accept the text; nothing is shown and nothing is set.
-bool EsFórmula(const Contexto& contexto, const QString& texto) {
-    SinMensajes nadie;
-    Contexto callado(nadie, contexto.vigilante, contexto.TablaPrimos);
-    callado.DígitosRedondeo = contexto.DígitosRedondeo;
-    std::string fórmula = DevUtf8(texto);
-    return Sintaxis(callado, fórmula);
-}
-
 QLineEdit* CreaValor(QWidget* padre, const QString& nombre, const QString& accesible) {
     auto* valor = new QLineEdit(padre);
     valor->setObjectName(nombre);
@@ -175,7 +161,8 @@ void PanelFunciones::AlEscribir(int índice) {
     Fila& fila = DevFila(índice);
     fila.sinComprobar = true;
     const QString texto = fila.txtfx->text();
-    fila.txtfx->MarcaErrónea(!texto.isEmpty() && !EsFórmula(contexto_, texto));
+    std::string fórmula = DevUtf8(texto);
+    fila.txtfx->MarcaErrónea(!texto.isEmpty() && CompruebaSintaxis(contexto_, fórmula).has_value());
 }
 
 // Enter is the wish to see the function.

@@ -22,62 +22,74 @@ bool CabeEnEnteroLargo(std::string_view texto) {
 
 } // namespace
 
-bool EsEnteroLargo(Contexto& contexto, std::string_view texto) {
+std::optional<Rechazo> CompruebaEnteroLargo(std::string_view texto) {
     const auto noDígito =
         std::ranges::find_if_not(texto.substr(texto.starts_with('-') ? 1 : 0), EsDígito);
     if (noDígito != texto.end() && *noDígito == '-')
-        return false;
+        return Rechazo{.motivo = Motivo::Callado};
     if (CabeEnEnteroLargo(texto))
-        return true;
-    contexto.Avisa("Se requiere un número en el rango de los enteros largos");
-    return false;
+        return std::nullopt;
+    return Rechazo{.motivo = Motivo::NoEsEnteroLargo};
 }
 
 bool NoContieneX(std::string_view texto) {
     return texto.find('X') == std::string_view::npos;
 }
 
-bool NoNegativo(Contexto& contexto, std::string_view texto) {
+std::optional<Rechazo> CompruebaNoNegativo(std::string_view texto) {
     if (Val(texto) >= 0)
-        return true;
-    contexto.Avisa("No se permiten valores negativos");
-    return false;
+        return std::nullopt;
+    return Rechazo{.motivo = Motivo::EsNegativo};
+}
+
+std::optional<Rechazo> CompruebaNoCero(std::string_view texto) {
+    if (texto != "0")
+        return std::nullopt;
+    return Rechazo{.motivo = Motivo::EsCero};
+}
+
+std::optional<Rechazo> CompruebaOrdenados(std::string_view primero, std::string_view segundo,
+                                          ModoOrden modo) {
+    const double a = Val(primero);
+    const double b = Val(segundo);
+    const bool mayor = modo == ModoOrden::Mayor;
+    if (mayor ? a > b : a < b)
+        return std::nullopt;
+    return Rechazo{.motivo = mayor ? Motivo::NoEsMayor : Motivo::NoEsMenor};
+}
+
+std::optional<Rechazo> CompruebaValorDato(Contexto& contexto, std::string& texto) {
+    if (auto rechazo = CompruebaSintaxis(contexto, texto))
+        return rechazo;
+    if (!NoContieneX(texto))
+        return Rechazo{.motivo = Motivo::DatoConX};
+    Programa programa = CompilaExpresión(texto);
+    const std::optional<double> valor = DevValor(contexto, programa, 0);
+    if (!valor)
+        return Rechazo{.motivo = Motivo::ArgumentoFueraDeRango};
+    texto = TextoNúmero(*valor);
+    return std::nullopt;
+}
+
+bool EsEnteroLargo(Contexto& contexto, std::string_view texto) {
+    return Acepta(contexto, CompruebaEnteroLargo(texto));
+}
+
+bool NoNegativo(Contexto& contexto, std::string_view texto) {
+    return Acepta(contexto, CompruebaNoNegativo(texto));
 }
 
 bool NoCero(Contexto& contexto, std::string_view texto) {
-    if (texto != "0")
-        return true;
-    contexto.Avisa("No está permitido el número cero");
-    return false;
+    return Acepta(contexto, CompruebaNoCero(texto));
 }
 
 bool CompruebaOrden(Contexto& contexto, std::string_view primero, std::string_view segundo,
                     ModoOrden modo) {
-    const double a = Val(primero);
-    const double b = Val(segundo);
-    if (modo == ModoOrden::Mayor ? a > b : a < b)
-        return true;
-    contexto.Avisa(modo == ModoOrden::Mayor ? "El primer número debe ser mayor que el segundo"
-                                            : "El primer número debe ser menor que el segundo");
-    return false;
+    return Acepta(contexto, CompruebaOrdenados(primero, segundo, modo));
 }
 
 bool DevValorDato(Contexto& contexto, std::string& texto) {
-    if (!Sintaxis(contexto, texto))
-        return false;
-    if (!NoContieneX(texto)) {
-        contexto.Avisa("Este dato no admite la variable X");
-        return false;
-    }
-    Programa programa = CompilaExpresión(texto);
-    contexto.ErrorCódigo = SinFallo;
-    const double valor = EvalúaPrograma(contexto, programa, 0);
-    if (contexto.ErrorCódigo != SinFallo) {
-        contexto.Avisa("El argumento dado a la función está fuera de rango, pruebe otro valor");
-        return false;
-    }
-    texto = TextoNúmero(valor);
-    return true;
+    return Acepta(contexto, CompruebaValorDato(contexto, texto));
 }
 
 Caja CompruebaExtremos(Contexto& contexto, std::string& primero, std::string& segundo,

@@ -1,9 +1,11 @@
-// The small checks on what the user typed. Each shows at most one message (with the exclamation
-// icon) and returns true where the input is acceptable.
+// The small checks on what the user typed. Each has an asking form, which says what is wrong and
+// shows nothing, and a face that shows it (with the exclamation icon) and returns true where the
+// input is acceptable.
 #pragma once
 
-#include "engine/base/contexto.h"
+#include "engine/base/rechazo.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,24 +13,31 @@ namespace quiralto {
 
 // Digits, the first character may be "-", value in -2147483648 .. 2147483647. A "-" behind the
 // first character is refused without a message.
+std::optional<Rechazo> CompruebaEnteroLargo(std::string_view texto);
 bool EsEnteroLargo(Contexto& contexto, std::string_view texto);
 
 // No "X" in the text; never a message, the caller reports.
 bool NoContieneX(std::string_view texto);
 
 // The numeric value of the text is not negative.
+std::optional<Rechazo> CompruebaNoNegativo(std::string_view texto);
 bool NoNegativo(Contexto& contexto, std::string_view texto);
 
 // The text is not exactly "0"; "0.0" and "00" pass.
+std::optional<Rechazo> CompruebaNoCero(std::string_view texto);
 bool NoCero(Contexto& contexto, std::string_view texto);
 
 enum class ModoOrden { Mayor = 1, Menor = 2 };
 
 // The value of the first text is strictly greater (smaller) than that of the second.
+std::optional<Rechazo> CompruebaOrdenados(std::string_view primero, std::string_view segundo,
+                                          ModoOrden modo);
 bool CompruebaOrden(Contexto& contexto, std::string_view primero, std::string_view segundo,
                     ModoOrden modo);
 
 // A numeric datum typed as a constant expression ("2*SQR(3)"): its text is replaced by its value.
+// Leaves ErrorCódigo clear, but that the face sets it to 6 for a number beyond the Double range.
+std::optional<Rechazo> CompruebaValorDato(Contexto& contexto, std::string& texto);
 bool DevValorDato(Contexto& contexto, std::string& texto);
 
 enum class Caja { Ninguna, Primera, Segunda };

@@ -5,7 +5,8 @@
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
+#include <vector>
 
 namespace quiralto {
 namespace {
@@ -20,11 +21,10 @@ void MarcaExponentes(std::string& texto) {
             texto[i] = 'D';
 }
 
-bool CompruebaVacía(Contexto& contexto, const std::string& texto) {
+std::optional<Rechazo> CompruebaVacía(const std::string& texto) {
     if (!texto.empty())
-        return true;
-    contexto.Avisa("No ha escrito ninguna función o valor numérico ");
-    return false;
+        return std::nullopt;
+    return Rechazo{.motivo = Motivo::SinFórmula};
 }
 
 // Length of the function name with its parenthesis that begins the text; 0 where none does.
@@ -36,7 +36,7 @@ std::size_t LongitudNombre(const Contexto& contexto, std::string_view texto) {
     return !prefijo.empty() && texto.starts_with(prefijo) ? prefijo.size() : 0;
 }
 
-bool CompruebaCaracteres(Contexto& contexto, const std::string& texto) {
+std::optional<Rechazo> CompruebaCaracteres(const Contexto& contexto, const std::string& texto) {
     for (std::size_t i = 0; i < texto.size();) {
         if (EsDígito(texto[i]) || EstáEn(texto[i], "+-*/^()DX.")) {
             ++i;
@@ -46,51 +46,57 @@ bool CompruebaCaracteres(Contexto& contexto, const std::string& texto) {
         if (salto == 0) {
             // A character is shown whole, whatever its length in bytes.
             const std::size_t longitud = std::max<std::size_t>(1, LongitudCarácter(texto, i));
-            contexto.Avisa("Error de sintáxis: '" + texto.substr(i, longitud) + "'");
-            return false;
+            return Rechazo{Motivo::CarácterExtraño, {texto.substr(i, longitud)}, i};
         }
         i += salto;
     }
-    return true;
+    return std::nullopt;
 }
 
-bool CompruebaParéntesis(Contexto& contexto, const std::string& texto) {
+// The place of the last parenthesis that is left open, in a text that closes none too many.
+std::size_t LugarSinCerrar(std::string_view texto) {
+    std::size_t i = texto.size();
+    for (long cerrados = 0; cerrados >= 0;) {
+        --i;
+        cerrados += texto[i] == ')' ? 1 : texto[i] == '(' ? -1 : 0;
+    }
+    return i;
+}
+
+std::optional<Rechazo> CompruebaParéntesis(const std::string& texto) {
     long abiertos = 0;
-    for (const char c : texto) {
-        abiertos += c == '(' ? 1 : c == ')' ? -1 : 0;
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        abiertos += texto[i] == '(' ? 1 : texto[i] == ')' ? -1 : 0;
         if (abiertos < 0)
-            break;
+            return Rechazo{.motivo = Motivo::ParéntesisDesiguales, .lugar = i};
     }
     if (abiertos == 0)
-        return true;
-    contexto.Avisa("Desequilibrio de paréntesis abiertos y cerrados");
-    return false;
+        return std::nullopt;
+    return Rechazo{.motivo = Motivo::ParéntesisDesiguales, .lugar = LugarSinCerrar(texto)};
 }
 
-bool CompruebaFinal(Contexto& contexto, const std::string& texto) {
+std::optional<Rechazo> CompruebaFinal(const std::string& texto) {
     if (!EstáEn(texto.back(), "+-*/^.D"))
-        return true;
-    contexto.Avisa(std::string("No está permitido terminar con: ") + texto.back());
-    return false;
+        return std::nullopt;
+    return Rechazo{Motivo::FinalNoPermitido, {std::string(1, texto.back())}, texto.size() - 1};
 }
 
-bool CompruebaComienzo(Contexto& contexto, const std::string& texto) {
+std::optional<Rechazo> CompruebaComienzo(const std::string& texto) {
     if (!EstáEn(texto.front(), "*/^D"))
-        return true;
-    contexto.Avisa(std::string("No está permitido comenzar con:") + texto.front());
-    return false;
+        return std::nullopt;
+    return Rechazo{Motivo::ComienzoNoPermitido, {std::string(1, texto.front())}};
 }
 
-bool CompruebaLógica(Contexto& contexto, const std::string& texto) {
+std::optional<Rechazo> CompruebaLógica(const std::string& texto) {
+    // "+*X" hides a forbidden beginning until its signs are folded.
+    if (EstáEn(texto.front(), "*/^D"))
+        return Rechazo{.motivo = Motivo::FaltaDeLógica};
     EstadoPares estado;
     ParVálido(estado, '\0', '\0', true);
-    // "+*X" hides a forbidden beginning until its signs are folded.
-    bool válida = !EstáEn(texto.front(), "*/^D");
-    for (std::size_t i = 0; válida && i + 1 < texto.size(); ++i)
-        válida = ParVálido(estado, texto[i], texto[i + 1]);
-    if (!válida)
-        contexto.Avisa("Error de lógica en la expresión, verifique la sintaxis");
-    return válida;
+    for (std::size_t i = 0; i + 1 < texto.size(); ++i)
+        if (!ParVálido(estado, texto[i], texto[i + 1]))
+            return Rechazo{.motivo = Motivo::FaltaDeLógica, .lugar = i + 1};
+    return std::nullopt;
 }
 
 // Position behind the number that begins at i: it ends at the next operator or ")", where a sign
@@ -102,7 +108,7 @@ std::size_t FinDeNúmero(std::string_view texto, std::size_t i) {
     return i;
 }
 
-bool CompruebaRangoNúmeros(Contexto& contexto, std::string& texto) {
+std::optional<Rechazo> CompruebaRangoNúmeros(int dígitos, std::string& texto) {
     std::string reescrito;
     reescrito.reserve(texto.size());
     for (std::size_t i = 0; i < texto.size();) {
@@ -115,18 +121,68 @@ bool CompruebaRangoNúmeros(Contexto& contexto, std::string& texto) {
         const NúmeroLeído número = LeeNúmero(escrito);
         if (número.desborda || número.longitud != escrito.size()) {
             texto = std::move(reescrito.append(texto, i));
-            contexto.ErrorCódigo = número.desborda ? Desbordamiento : ArgumentoInválido;
-            contexto.Avisa(número.desborda
-                               ? "Un número de doble precisión está fuera del rango permitido"
-                               : "Error inesperado en la función Sintaxis contacte con el "
-                                 "proveedor del programa");
-            return false;
+            return Rechazo{.motivo = número.desborda ? Motivo::NúmeroFueraDeRango
+                                                     : Motivo::NúmeroIlegible,
+                           .lugar = i};
         }
-        reescrito += TextoNúmero(Redondea(número.valor, contexto.DígitosRedondeo));
+        reescrito += TextoNúmero(Redondea(número.valor, dígitos));
         i = fin;
     }
     texto = std::move(reescrito);
-    return true;
+    return std::nullopt;
+}
+
+// The steps before the signs are folded; they change no place.
+std::optional<Rechazo> CompruebaEscrito(const Contexto& contexto, const std::string& texto) {
+    if (auto rechazo = CompruebaVacía(texto))
+        return rechazo;
+    if (auto rechazo = CompruebaCaracteres(contexto, texto))
+        return rechazo;
+    if (auto rechazo = CompruebaParéntesis(texto))
+        return rechazo;
+    if (auto rechazo = CompruebaFinal(texto))
+        return rechazo;
+    return CompruebaComienzo(texto);
+}
+
+std::optional<Rechazo> CompruebaPlegado(const Contexto& contexto, std::string& texto) {
+    if (auto rechazo = CompruebaLógica(texto))
+        return rechazo;
+    return CompruebaRangoNúmeros(contexto.DígitosRedondeo, texto);
+}
+
+// Folds the runs of signs; `alEscribir` is told the place that each character comes from.
+template <typename F> std::string PliegaSignos(std::string_view texto, F alEscribir) {
+    std::string plegado;
+    plegado.reserve(texto.size());
+    const auto escribe = [&](char c, std::size_t lugar) {
+        plegado += c;
+        alEscribir(lugar);
+    };
+    for (std::size_t i = 0; i < texto.size();) {
+        if (!EsSigno(texto[i])) {
+            escribe(texto[i], i);
+            ++i;
+            continue;
+        }
+        const std::size_t primero = i;
+        bool negativo = false;
+        for (; i < texto.size() && EsSigno(texto[i]); ++i)
+            negativo ^= texto[i] == '-';
+        if (negativo)
+            escribe('-', primero);
+        else if (!plegado.empty() && plegado.back() != '(' && !EsOperadorFuerte(plegado.back()))
+            escribe('+', primero);
+    }
+    return plegado;
+}
+
+// Where the character at `lugar` of the folded text stood before.
+std::size_t LugarSinPlegar(std::string_view texto, std::size_t lugar) {
+    std::vector<std::size_t> lugares;
+    lugares.reserve(texto.size());
+    PliegaSignos(texto, [&](std::size_t i) { lugares.push_back(i); });
+    return lugares[lugar];
 }
 
 bool PuedeEmpezarOperando(char c) {
@@ -135,33 +191,23 @@ bool PuedeEmpezarOperando(char c) {
 
 } // namespace
 
-bool Sintaxis(Contexto& contexto, std::string& texto) {
+std::optional<Rechazo> CompruebaSintaxis(const Contexto& contexto, std::string& texto) {
     MarcaExponentes(texto);
-    if (!CompruebaVacía(contexto, texto) || !CompruebaCaracteres(contexto, texto) ||
-        !CompruebaParéntesis(contexto, texto) || !CompruebaFinal(contexto, texto) ||
-        !CompruebaComienzo(contexto, texto))
-        return false;
-    texto = SimplificaSignos(texto);
-    return CompruebaLógica(contexto, texto) && CompruebaRangoNúmeros(contexto, texto);
+    if (auto rechazo = CompruebaEscrito(contexto, texto))
+        return rechazo;
+    const std::string sinPlegar = std::exchange(texto, SimplificaSignos(texto));
+    auto rechazo = CompruebaPlegado(contexto, texto);
+    if (rechazo)
+        rechazo->lugar = LugarSinPlegar(sinPlegar, rechazo->lugar);
+    return rechazo;
+}
+
+bool Sintaxis(Contexto& contexto, std::string& texto) {
+    return Acepta(contexto, CompruebaSintaxis(contexto, texto));
 }
 
 std::string SimplificaSignos(std::string_view texto) {
-    std::string plegado;
-    plegado.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size();) {
-        if (!EsSigno(texto[i])) {
-            plegado += texto[i++];
-            continue;
-        }
-        bool negativo = false;
-        for (; i < texto.size() && EsSigno(texto[i]); ++i)
-            negativo ^= texto[i] == '-';
-        if (negativo)
-            plegado += '-';
-        else if (!plegado.empty() && plegado.back() != '(' && !EsOperadorFuerte(plegado.back()))
-            plegado += '+';
-    }
-    return plegado;
+    return PliegaSignos(texto, [](std::size_t) {});
 }
 
 bool ParVálido(EstadoPares& estado, char a, char b, bool reinicia) {

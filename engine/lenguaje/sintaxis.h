@@ -6,9 +6,10 @@
 // set), and its numbers are in the general form of numero.h.
 #pragma once
 
-#include "engine/base/contexto.h"
+#include "engine/base/rechazo.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,8 +21,12 @@ inline constexpr std::array<std::string_view, 10> NombresFunción = {
     "ARCSIN", "COSEC", "SIN", "COS", "TAN", "ATN", "LOG", "EXP", "SQR", "SEC"};
 
 // Checks the text and normalises it in place: exponents marked, signs folded, numbers rounded to
-// DígitosRedondeo and rewritten. True if it is a formula; otherwise one message has been shown and
-// the text may be partly normalised. Sets ErrorCódigo to 6 for a number beyond the Double range.
+// DígitosRedondeo and rewritten. None if it is a formula; otherwise what is wrong and where in the
+// text as it was handed over, and the text may be partly normalised. Shows and sets nothing.
+std::optional<Rechazo> CompruebaSintaxis(const Contexto& contexto, std::string& texto);
+
+// The same, said: true if it is a formula; otherwise one message has been shown. Sets ErrorCódigo
+// to 6 for a number beyond the Double range.
 bool Sintaxis(Contexto& contexto, std::string& texto);
 
 // Folds every run of signs to one sign, and drops a "+" at the beginning and behind "(/*^".

@@ -15,13 +15,13 @@ std::vector<Mensaje> SoloUno(const std::string& texto) {
     return {{Icono::Exclamación, texto}};
 }
 
-struct Rechazo {
+struct TextoRechazado {
     std::string texto;
     std::string mensaje;
 };
 
-void CompruebaRechazos(const std::vector<Rechazo>& casos) {
-    for (const Rechazo& caso : casos) {
+void CompruebaRechazos(const std::vector<TextoRechazado>& casos) {
+    for (const TextoRechazado& caso : casos) {
         Banco banco;
         std::string texto = caso.texto;
         EXPECT_FALSE(Sintaxis(banco.contexto, texto)) << caso.texto;
@@ -154,7 +154,7 @@ TEST(Sintaxis, RechazaParéntesisDesequilibrados) {
 }
 
 TEST(Sintaxis, RechazaFinalesYComienzos) {
-    std::vector<Rechazo> casos;
+    std::vector<TextoRechazado> casos;
     for (const char c : std::string("+-*/^.D"))
         casos.push_back(
             {std::string("X") + c, std::string("No está permitido terminar con: ") + c});
@@ -167,7 +167,7 @@ TEST(Sintaxis, RechazaFinalesYComienzos) {
 }
 
 TEST(Sintaxis, RechazaLoQueNoTieneLógica) {
-    std::vector<Rechazo> casos;
+    std::vector<TextoRechazado> casos;
     for (const char* texto :
          {"1..2",   "1.2.3",   "X(1)",    "2D1.5",   "()",           "SIN()",   "2X",
           "X2",     "XX",      "2(X)",    "(X)2",    "(X)X",         "(X)(X)",  "X*/2",
@@ -200,6 +200,46 @@ TEST(Sintaxis, LoYaNormalizadoQuedaEnElTextoRechazado) {
         EXPECT_FALSE(Sintaxis(banco.contexto, texto));
         EXPECT_EQ(texto, caso.queda);
     }
+}
+
+TEST(CompruebaSintaxis, DiceQuéYDóndeSinMostrarNada) {
+    const struct {
+        const char* texto;
+        Rechazo rechazo;
+    } casos[] = {
+        {"", {Motivo::SinFórmula, {}, 0}},
+        {"X+Ñ", {Motivo::CarácterExtraño, {"Ñ"}, 2}},
+        {"EXP(X)+EXQ(X)", {Motivo::CarácterExtraño, {"E"}, 7}},
+        {"(X))+(X", {Motivo::ParéntesisDesiguales, {}, 3}},
+        {"((X)+(X", {Motivo::ParéntesisDesiguales, {}, 5}},
+        {"((X+(X)", {Motivo::ParéntesisDesiguales, {}, 1}},
+        {"X+3*", {Motivo::FinalNoPermitido, {"*"}, 3}},
+        {"/X", {Motivo::ComienzoNoPermitido, {"/"}, 0}},
+        {"X+2X", {Motivo::FaltaDeLógica, {}, 3}},
+        {"--X+-+2X", {Motivo::FaltaDeLógica, {}, 7}},
+        {"+-+*X", {Motivo::FaltaDeLógica, {}, 3}},
+        {"++*X", {Motivo::FaltaDeLógica, {}, 2}},
+        {"X---1E999", {Motivo::NúmeroFueraDeRango, {}, 4}},
+        {"2*++1E309+1E310", {Motivo::NúmeroFueraDeRango, {}, 4}},
+    };
+    for (const auto& caso : casos) {
+        Banco banco;
+        std::string texto = caso.texto;
+        const std::optional<Rechazo> rechazo = CompruebaSintaxis(banco.contexto, texto);
+        ASSERT_TRUE(rechazo) << caso.texto;
+        EXPECT_EQ(rechazo->motivo, caso.rechazo.motivo) << TextoRechazo(*rechazo);
+        EXPECT_EQ(rechazo->argumentos, caso.rechazo.argumentos) << caso.texto;
+        EXPECT_EQ(rechazo->lugar, caso.rechazo.lugar) << caso.texto;
+        EXPECT_EQ(banco.TomaMensajes(), std::vector<Mensaje>{}) << caso.texto;
+        EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo) << caso.texto;
+    }
+}
+
+TEST(CompruebaSintaxis, NormalizaComoSintaxis) {
+    Banco banco;
+    std::string texto = "X--2E+3*0.123456789";
+    EXPECT_EQ(CompruebaSintaxis(banco.contexto, texto), std::nullopt);
+    EXPECT_EQ(texto, "X+2000*.12345679");
 }
 
 TEST(Sintaxis, RechazaNúmerosMásAlláDelRango) {
