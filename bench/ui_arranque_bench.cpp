@@ -6,9 +6,9 @@
 // otherwise). The process runs itself, as often as it measures; the child tells how long it was
 // since its parent's clock, so neither its end nor the pipe between them is measured.
 
-#include "ui/aplicacion.h"
-#include "ui/arranque.h"
-#include "ui/mensajes_ventana.h"
+#include "ui/programa/aplicacion.h"
+#include "ui/programa/arranque.h"
+#include "ui/programa/mensajes_ventana.h"
 
 #include <QProcess>
 #include <QScreen>

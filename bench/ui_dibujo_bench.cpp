@@ -1,7 +1,7 @@
 // A redraw of four functions at 4800 points on 1200x800 logical pixels, in its parts, beside a bare
 // QPainter that draws the same four polylines. The argument is the device pixel ratio.
 
-#include "ui/dibujo_grafica.h"
+#include "ui/dibujo/grafica.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -1,6 +1,6 @@
 // The application as the program prepares it.
 
-#include "ui/aplicacion.h"
+#include "ui/programa/aplicacion.h"
 
 #include <QDialogButtonBox>
 #include <QPushButton>

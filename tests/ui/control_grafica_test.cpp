@@ -1,7 +1,7 @@
 // The handlers of the graph view: what each refreshes, in which order, and how faults end.
 
 #include "tests/apoyo.h"
-#include "ui/control_grafica.h"
+#include "ui/formularios/control_grafica.h"
 
 #include <QLabel>
 

@@ -1,8 +1,8 @@
 // Help, About, the splash form and the start of the program.
 
 #include "tests/ui/ventana_de_prueba.h"
-#include "ui/arranque.h"
-#include "ui/form_ayuda.h"
+#include "ui/formularios/form_ayuda.h"
+#include "ui/programa/arranque.h"
 
 #include <QElapsedTimer>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 // application prepared as the program prepares it.
 
 #include "tests/ui/dialogos.h"
-#include "ui/aplicacion.h"
+#include "ui/programa/aplicacion.h"
 
 #include <gtest/gtest.h>
 

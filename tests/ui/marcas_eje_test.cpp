@@ -1,6 +1,6 @@
 // Unit marks and coordinates: round, apart, and never two alike.
 
-#include "ui/marcas_eje.h"
+#include "ui/grafica/marcas_eje.h"
 
 #include <gtest/gtest.h>
 

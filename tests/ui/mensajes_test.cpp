@@ -1,7 +1,7 @@
 // Message boxes as the user sees them.
 
 #include "tests/ui/dialogos.h"
-#include "ui/mensajes_ventana.h"
+#include "ui/programa/mensajes_ventana.h"
 
 #include <QAbstractButton>
 

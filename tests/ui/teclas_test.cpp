@@ -1,8 +1,8 @@
 // What the worksheet makes of keys, dead keys, pasted and dropped text.
 
 #include "tests/ui/ventana_de_prueba.h"
-#include "ui/caja_formula.h"
-#include "ui/teclas.h"
+#include "ui/hoja/caja_formula.h"
+#include "ui/hoja/filtro_teclas.h"
 
 #include <QClipboard>
 #include <QDropEvent>

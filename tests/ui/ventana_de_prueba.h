@@ -4,8 +4,8 @@
 
 #include "commands/fichero_primos.h"
 #include "tests/apoyo.h"
-#include "ui/frm_graficas.h"
-#include "ui/texto_qt.h"
+#include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/frm_graficas.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // The view without a window: transforms, zooms, scrolls, and changes that are undone as a whole.
 
 #include "tests/apoyo.h"
-#include "ui/ventana_grafica.h"
+#include "ui/grafica/ventana_grafica.h"
 
 #include <gtest/gtest.h>
 

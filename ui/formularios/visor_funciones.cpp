@@ -1,0 +1,179 @@
+#include "ui/formularios/visor_funciones.h"
+
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QMouseEvent>
+
+#include <cmath>
+
+namespace quiralto {
+namespace {
+
+// Assistive technology takes the picture for a chart, not for one more box of controls.
+QAccessibleInterface* DevInterfazAccesible(const QString&, QObject* objeto) {
+    auto* visor = dynamic_cast<VisorFunciones*>(objeto);
+    return visor == nullptr ? nullptr : new QAccessibleWidget(visor, QAccessible::Chart);
+}
+
+} // namespace
+
+VisorFunciones::VisorFunciones(QWidget* padre) : QWidget(padre) {
+    QAccessible::installFactory(DevInterfazAccesible); // once, however often it is asked for
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
+    setMinimumSize(280, 200);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void VisorFunciones::Muestra(EscenaGráfica escena) {
+    if (escena != escena_)
+        capa_ = {};
+    escena_ = std::move(escena);
+    update();
+}
+
+void VisorFunciones::MueveMarcador(const EscenaGráfica& escena) {
+    escena_.PuntoX = escena.PuntoX;
+    escena_.valores = escena.valores;
+    update();
+}
+
+Lienzo VisorFunciones::DevLienzo() const {
+    const qreal dpr = devicePixelRatioF();
+    return {QRectF(0, 0, std::round(width() * dpr), std::round(height() * dpr)),
+            std::max(1.0, std::round(dpr))};
+}
+
+QPixmap VisorFunciones::DibujaCapa() const {
+    const Lienzo lienzo = DevLienzo();
+    QPixmap capa(lienzo.área.size().toSize());
+    QPainter pintor(&capa);
+    pintor.setFont(DevFuenteRótulos(font(), lienzo.grosor));
+    DibujaGráfica(pintor, lienzo, escena_);
+    pintor.end();
+    capa.setDevicePixelRatio(devicePixelRatioF());
+    return capa;
+}
+
+void VisorFunciones::paintEvent(QPaintEvent*) {
+    const Lienzo lienzo = DevLienzo();
+    if (capa_.size() != lienzo.área.size().toSize() ||
+        capa_.devicePixelRatio() != devicePixelRatioF())
+        capa_ = DibujaCapa();
+    QPainter pintor(this);
+    pintor.drawPixmap(0, 0, capa_);
+    pintor.save();
+    pintor.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
+    DibujaPuntoX(pintor, lienzo, escena_);
+    pintor.restore();
+    if (hasFocus()) {
+        // not the style's, which may tint the paper
+        pintor.setPen(palette().color(QPalette::Highlight));
+        pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+QImage VisorFunciones::DevImagen() const {
+    QPixmap capa = DibujaCapa();
+    capa.setDevicePixelRatio(1);
+    QPainter pintor(&capa);
+    DibujaPuntoX(pintor, DevLienzo(), escena_);
+    pintor.end();
+    return capa.toImage();
+}
+
+QPointF VisorFunciones::DevLógico(const QPointF& lugar) const {
+    const Lienzo lienzo = DevLienzo();
+    const qreal dpr = devicePixelRatioF();
+    const Ventana& v = escena_.ventana;
+    const double t = lienzo.DevT(lugar.y() * dpr + lienzo.grosor / 2);
+    return {DevXfísico(v, lienzo.DevS(lugar.x() * dpr + lienzo.grosor / 2)),
+            (v.YMáx - v.YMín) * (t + MediaEscala) / (2 * MediaEscala) + v.YMín};
+}
+
+QPointF VisorFunciones::DevSeparación() const {
+    const Ventana& v = escena_.ventana;
+    return {(v.XMáx - v.XMín) / std::max(1, width()), (v.YMáx - v.YMín) / std::max(1, height())};
+}
+
+bool VisorFunciones::event(QEvent* suceso) {
+    switch (suceso->type()) {
+    case QEvent::Leave:
+        deseos.señalar(std::nullopt);
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        capa_ = {};
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(suceso);
+}
+
+void VisorFunciones::keyPressEvent(QKeyEvent* suceso) {
+    const double pasos = suceso->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1;
+    switch (suceso->key()) {
+    case Qt::Key_Left:
+        deseos.moverX(-pasos);
+        break;
+    case Qt::Key_Right:
+        deseos.moverX(pasos);
+        break;
+    case Qt::Key_Plus:
+        deseos.zoomGráfica(0);
+        break;
+    case Qt::Key_Minus:
+        deseos.zoomGráfica(3);
+        break;
+    default:
+        QWidget::keyPressEvent(suceso);
+    }
+}
+
+void VisorFunciones::mousePressEvent(QMouseEvent* suceso) {
+    if (suceso->button() != Qt::LeftButton)
+        return;
+    pulsado_ = suceso->position();
+    arrastrado_ = false;
+}
+
+void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
+    const QPointF lugar = suceso->position();
+    if (pulsado_ && suceso->buttons().testFlag(Qt::LeftButton)) {
+        const QPointF desvío = lugar - *pulsado_;
+        arrastrado_ = arrastrado_ || desvío.manhattanLength() >= QApplication::startDragDistance();
+        if (arrastrado_) {
+            setCursor(Qt::ClosedHandCursor);
+            pulsado_ = lugar;
+            const QPointF separación = DevSeparación();
+            deseos.desplazar(-desvío.x() * separación.x(), desvío.y() * separación.y());
+        }
+    }
+    deseos.señalar(lugar);
+}
+
+void VisorFunciones::mouseReleaseEvent(QMouseEvent* suceso) {
+    if (suceso->button() != Qt::LeftButton || !pulsado_)
+        return;
+    pulsado_.reset();
+    setCursor(Qt::CrossCursor);
+    if (!arrastrado_)
+        deseos.fijarX(DevLógico(suceso->position()).x());
+}
+
+void VisorFunciones::wheelEvent(QWheelEvent* suceso) {
+    constexpr int Paso = QWheelEvent::DefaultDeltasPerStep;
+    rueda_ += suceso->angleDelta().y();
+    const QPointF lógico = DevLógico(suceso->position());
+    for (; rueda_ >= Paso; rueda_ -= Paso)
+        deseos.zoom(lógico.x(), lógico.y(), 2);
+    for (; rueda_ <= -Paso; rueda_ += Paso)
+        deseos.zoom(lógico.x(), lógico.y(), 0.5);
+    deseos.señalar(suceso->position());
+    suceso->accept();
+}
+
+} // namespace quiralto

@@ -1,0 +1,24 @@
+#include "ui/programa/aplicacion.h"
+
+#include "quiralto_version.h"
+
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <clocale>
+
+namespace quiralto {
+
+bool PreparaAplicación(QApplication& aplicación) {
+    std::setlocale(LC_NUMERIC, "C"); // the toolkit has set the user's
+    QApplication::setApplicationName(QStringLiteral("Quiralto"));
+    QApplication::setApplicationVersion(QString::fromLatin1(Versión));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quiralto"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quiralto.Quiralto"));
+    auto* traductor = new QTranslator(&aplicación);
+    return traductor->load(QStringLiteral("qtbase_es"),
+                           QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+           QCoreApplication::installTranslator(traductor);
+}
+
+} // namespace quiralto
