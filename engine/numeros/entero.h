@@ -20,8 +20,10 @@ public:
     bool EsCero() const { return grande_.empty() && pequeño_ == 0; }
     bool EsUno() const { return grande_.empty() && pequeño_ == 1; }
     int Signo() const { return (pequeño_ > 0) - (pequeño_ < 0); }
-    std::size_t Bits() const; // of the magnitude; 0 for 0
-    double ADouble() const;   // the nearest one; an infinity beyond the range
+    bool EsPequeño() const { return grande_.empty(); }
+    std::int64_t Pequeño() const { return pequeño_; } // of a small one
+    std::size_t Bits() const;                         // of the magnitude; 0 for 0
+    double ADouble() const; // the nearest one; an infinity beyond the range
 
     // The remainder 0 .. módulo - 1 (of the number itself, not of its magnitude).
     Palabra Módulo(Palabra módulo) const;
