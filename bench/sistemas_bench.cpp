@@ -50,7 +50,7 @@ void Orden_(benchmark::State& estado) {
     const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
     Banco pantalla;
     for (auto _ : estado) {
-        Hoja hoja{.texto = sistema.hoja, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(sistema.hoja);
         EjecutaInstrucciones(pantalla.contexto, hoja, "Resolver sistema lineal");
         benchmark::DoNotOptimize(hoja.texto.data());
     }

@@ -86,7 +86,7 @@ Estado EjecutaOrden(Contexto& contexto, const Opciones& opciones) {
     constexpr std::string_view MarcaDeOrden = "\xEF\xBB\xBF"; // byte order mark
     if (texto->starts_with(MarcaDeOrden))
         texto->erase(0, MarcaDeOrden.size());
-    Hoja hoja{.texto = ConCrLf(*texto), .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja(ConCrLf(*texto));
     CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
     EjecutaInstrucciones(contexto, hoja, opciones.argumento);
     if (hoja.líneaSeleccionada)

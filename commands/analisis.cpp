@@ -26,6 +26,11 @@ Intervalo DevIntervalo(const DatosFunción& datos) {
     return {datos.primero, datos.segundo, ancho / Pasos};
 }
 
+void AñadeLínea(const Contexto& contexto, Hoja& hoja, Hallazgo hallazgo) {
+    AñadeHallazgo(hoja, std::move(hallazgo), contexto.DígitosRedondeo);
+    hoja.texto += "\r\n";
+}
+
 void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
                          const Intervalo& intervalo) {
     Programa programa = CompilaExpresión(f);
@@ -37,7 +42,7 @@ void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
         if (!r)
             break;
         hallada = true;
-        (hoja.texto += "'Solución en X=").append(r->texto) += "\r\n";
+        AñadeLínea(contexto, hoja, {ClaseHallazgo::Solución, f, a, b, Val(r->texto)});
         comienzo = DevSiguienteComienzo(*r, h);
     }
     if (!hallada)
@@ -91,11 +96,6 @@ std::optional<PuntoExtremo> DevPuntoExtremo(Contexto& contexto, FunciónDerivada
     return PuntoExtremo{*r, *curvatura < 0 ? ClasePunto::Máximo : ClasePunto::Mínimo, *valor};
 }
 
-std::string TextoPunto(const Contexto& contexto, const Solución& lugar, double valor) {
-    return "X=" + lugar.texto + "    f(X)=" + TextoResultado(valor, contexto.DígitosRedondeo) +
-           "\r\n";
-}
-
 void DevExtremos(Contexto& contexto, Hoja& hoja, const std::string& f, const Intervalo& intervalo,
                  ClasePunto clase) {
     hoja.texto += "\r\n\r\n";
@@ -110,8 +110,9 @@ void DevExtremos(Contexto& contexto, Hoja& hoja, const std::string& f, const Int
             break;
         if (punto->clase == clase) {
             hallado = true;
-            hoja.texto += máximos ? "'Máximo en " : "'Mínimo en ";
-            hoja.texto += TextoPunto(contexto, punto->lugar, punto->valor);
+            AñadeLínea(contexto, hoja,
+                       {máximos ? ClaseHallazgo::Máximo : ClaseHallazgo::Mínimo, f, a, b,
+                        Val(punto->lugar.texto), punto->valor});
         }
         comienzo = DevSiguienteComienzo(punto->lugar, h);
     }
@@ -132,7 +133,7 @@ void DevPuntosInflexión(Contexto& contexto, Hoja& hoja, const std::string& f,
             break;
         if (const auto valor = DevValor(contexto, programa, Val(r->texto))) {
             hallado = true;
-            hoja.texto += "'Punto de inflexión en " + TextoPunto(contexto, *r, *valor);
+            AñadeLínea(contexto, hoja, {ClaseHallazgo::Inflexión, f, a, b, Val(r->texto), *valor});
         }
         comienzo = DevSiguienteComienzo(*r, h);
     }
@@ -162,7 +163,7 @@ void DevArea(Contexto& contexto, Hoja& hoja, const std::string& f, const Interva
     for (std::size_t i = 1; i < Pasos; ++i)
         suma = CompruebaFinito(suma + altura(i));
     const double area = CompruebaFinito((altura(0) + altura(Pasos) + 2 * suma) * h / 2);
-    hoja.texto += "'Area=" + TextoResultado(area, contexto.DígitosRedondeo);
+    AñadeHallazgo(hoja, {ClaseHallazgo::Área, f, a, b, 0, area}, contexto.DígitosRedondeo);
 }
 
 template <typename Trabajo> void ConDatos(Contexto& contexto, Hoja& hoja, Trabajo trabajo) {

@@ -1,22 +1,14 @@
 // The reader of the commands that work on one function of X.
 #pragma once
 
-#include "commands/hoja.h"
-#include "engine/base/contexto.h"
+#include "commands/formas.h"
 
 #include <optional>
-#include <string>
 
 namespace quiralto {
 
 // The forms of the line: f(x) · f(x),punto · f(x),extremo1,extremo2
 enum class TipoDatos { Función = 1, FunciónYPunto = 2, FunciónYExtremos = 3 };
-
-struct DatosFunción {
-    std::string función; // as Sintaxis left it
-    double primero = 0;  // punto, or extremo1
-    double segundo = 0;  // extremo2, greater than extremo1
-};
 
 // Reads the single instruction line of the worksheet. None: a message has been shown, and the line
 // is selected where it is the line that is wrong, not the number of lines or fields.

@@ -1,22 +1,13 @@
 // The reader of the commands that work on plain numbers.
 #pragma once
 
-#include "commands/hoja.h"
-#include "engine/base/contexto.h"
+#include "commands/formas.h"
 
 #include <cstddef>
 #include <optional>
 #include <vector>
 
 namespace quiralto {
-
-// The numbers that a command takes, each with its range.
-enum class ClaseNúmeros {
-    DoblePrecisión = 0,   // -1.79769313486231E+308 to 1.79769313486231E+308
-    EnterosLargos = 1,    // -2147483648 to 2147483647
-    EnterosCortos = 2,    // -32768 to 32767
-    EnterosPositivos = 3, // 2 to 2147483647
-};
 
 // Reads every number of the instruction lines, in order, separated by commas, by lines or by both.
 // `cantidad` is how many there must be; 0: any number of them, but at least one. Only the range is

@@ -1,40 +1,12 @@
 #include "commands/desarrollos.h"
 
 #include "commands/datos_funcion.h"
-#include "engine/base/caracteres.h"
+#include "commands/letras.h"
 #include "engine/desarrollo/desarrollo.h"
 #include "engine/lenguaje/compila.h"
-#include "engine/lenguaje/sintaxis.h"
-
-#include <algorithm>
-#include <charconv>
 
 namespace quiralto {
 namespace {
-
-constexpr std::string_view PrefijoSln = "SLN(";
-
-char EnMayúscula(char c) {
-    constexpr int Distancia = 'a' - 'A';
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - Distancia) : c;
-}
-
-// Length of the function name with its parenthesis that begins the text; 0 where none does.
-std::size_t LongitudNombre(std::string_view texto) {
-    for (const std::string_view nombre : NombresFunción)
-        if (texto.starts_with(nombre) && texto.substr(nombre.size()).starts_with('('))
-            return nombre.size() + 1;
-    return 0;
-}
-
-// Whether the letter at i is the exponent letter of the number on its left: "2E8", "1.5D-3".
-bool EsMarcaExponente(std::string_view texto, std::size_t i) {
-    if ((texto[i] != 'D' && texto[i] != 'E') || i == 0 ||
-        !(EsDígito(texto[i - 1]) || texto[i - 1] == '.'))
-        return false;
-    const std::size_t cifra = texto.find_first_not_of("+-", i + 1);
-    return cifra != std::string_view::npos && cifra <= i + 2 && EsDígito(texto[cifra]);
-}
 
 using Desarrollo = std::string (*)(Contexto&, const Programa&);
 
@@ -75,64 +47,8 @@ void ResolverDesarrolloSimplificadoMultivariable(Contexto& contexto, Hoja& hoja)
 }
 
 std::optional<std::string> CargaFunciónMultivariable(Contexto& contexto, Hoja& hoja) {
-    if (hoja.líneas.empty()) {
-        contexto.Avisa("Se esperaba una función multivariable del tipo "
-                       "f(...,x,y,z,...,s), por ejemplo :(a+b)^2*(x-y)");
-        return std::nullopt;
-    }
-    if (hoja.líneas.size() > 1) {
-        contexto.mensajes.Muestra(Icono::Ninguno, "Se esperaba unas sola línea de datos");
-        return std::nullopt;
-    }
-    std::string función = SustituyeVariables(hoja.líneas.front());
-    const GuardaPrefijo prefijo(contexto, std::string(PrefijoSln));
-    if (Sintaxis(contexto, función))
-        return función;
-    SeleccionaLínea(hoja, hoja.líneas.front());
-    return std::nullopt;
-}
-
-std::string SustituyeVariables(std::string_view texto) {
-    std::string mayúsculas(texto);
-    std::ranges::transform(mayúsculas, mayúsculas.begin(), EnMayúscula);
-    std::string sustituido;
-    sustituido.reserve(texto.size() * 2);
-    for (std::size_t i = 0; i < mayúsculas.size();) {
-        const std::string_view resto = std::string_view(mayúsculas).substr(i);
-        const std::size_t nombre = LongitudNombre(resto);
-        const char c = mayúsculas[i];
-        if (nombre > 0) {
-            sustituido += resto.substr(0, nombre);
-            i += nombre;
-            continue;
-        }
-        if (c >= 'A' && c <= 'Z' && c != 'X' && !EsMarcaExponente(mayúsculas, i))
-            ((sustituido += PrefijoSln) += std::to_string(static_cast<int>(c))) += ')';
-        else
-            sustituido += c;
-        ++i;
-    }
-    return sustituido;
-}
-
-std::string SustituyeSln(std::string_view texto) {
-    std::string sustituido;
-    sustituido.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size();) {
-        const std::string_view resto = texto.substr(i);
-        if (resto.starts_with(PrefijoSln)) {
-            int código = 0;
-            const char* const fin = texto.data() + texto.size();
-            const auto leído = std::from_chars(resto.data() + PrefijoSln.size(), fin, código);
-            if (leído.ptr != fin && *leído.ptr == ')' && código >= 'A' && código <= 'Z') {
-                sustituido += static_cast<char>(código);
-                i = static_cast<std::size_t>(leído.ptr - texto.data()) + 1;
-                continue;
-            }
-        }
-        sustituido += texto[i++];
-    }
-    return sustituido;
+    auto datos = CargaDatos<DatosMultivariable>(contexto, hoja, FormaMultivariable);
+    return datos ? std::optional(std::move(datos->función)) : std::nullopt;
 }
 
 } // namespace quiralto

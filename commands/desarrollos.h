@@ -6,7 +6,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace quiralto {
 
@@ -20,10 +19,5 @@ void ResolverDesarrolloSimplificadoMultivariable(Contexto& contexto, Hoja& hoja)
 // Reads the single instruction line as a function of letters, as Sintaxis leaves it. None: a
 // message has been shown; a line that is wrong is selected.
 std::optional<std::string> CargaFunciónMultivariable(Contexto& contexto, Hoja& hoja);
-
-// Every letter but X becomes "SLN(" its character code ")", a lower-case letter that of its upper
-// case; function names and the exponent letters of numbers stay. SustituyeSln is its inverse.
-std::string SustituyeVariables(std::string_view texto);
-std::string SustituyeSln(std::string_view texto);
 
 } // namespace quiralto

@@ -2,30 +2,22 @@
 
 namespace quiralto {
 
-std::vector<std::string_view> CortaLíneas(std::string_view texto) {
-    std::vector<std::string_view> líneas;
-    for (;;) {
-        const std::size_t fin = texto.find("\r\n");
-        líneas.push_back(texto.substr(0, fin));
-        if (fin == std::string_view::npos)
-            return líneas;
-        texto.remove_prefix(fin + 2);
-    }
-}
-
 std::vector<std::string> LeeTextBox(std::string_view texto) {
     std::vector<std::string> instrucciones;
-    for (const std::string_view línea : CortaLíneas(texto)) {
-        const std::size_t primero = línea.find_first_not_of(' ');
-        if (primero == std::string_view::npos || línea[primero] == '\'')
-            continue;
-        instrucciones.emplace_back(línea.substr(0, línea.find('\'')));
-    }
+    RecorreLíneas(texto, [&](std::string_view línea) {
+        if (const Línea leída = ClasificaLínea(línea); leída.clase == ClaseLínea::Datos)
+            instrucciones.emplace_back(leída.datos);
+    });
     return instrucciones;
 }
 
 void SeleccionaLínea(Hoja& hoja, std::string_view línea) {
     hoja.líneaSeleccionada = línea;
+}
+
+void AñadeHallazgo(Hoja& hoja, Hallazgo hallazgo, int dígitos) {
+    hoja.texto += TextoHallazgo(hallazgo, dígitos);
+    hoja.hallazgos.push_back(std::move(hallazgo));
 }
 
 std::string ConCrLf(std::string_view texto) {

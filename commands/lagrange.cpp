@@ -1,37 +1,17 @@
 #include "commands/lagrange.h"
 
-#include "commands/datos_numeros.h"
+#include "commands/formas.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
 #include "engine/polinomios/racional.h"
 
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace quiralto {
 namespace {
-
-std::optional<std::vector<double>> CargaPuntosLagrange(Contexto& contexto, Hoja& hoja) {
-    auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::DoblePrecisión, 0);
-    if (!números)
-        return std::nullopt;
-    if (números->size() % 2 != 0) {
-        contexto.Avisa("Se esperaban una lista con un número par de datos, en la forma "
-                       "x1,y1,x2,y2,.....,xn,yn; ejemplo : \r\n"
-                       "2,4,3,9,4,16,5,25");
-        return std::nullopt;
-    }
-    if (números->size() <= 2) {
-        contexto.Avisa("Se esperaban por lo menos dos parejas de valores "
-                       " en la forma x1,y1,x2,y2,....; ejemplo : \r\n"
-                       "2,8,6,216");
-        return std::nullopt;
-    }
-    return números;
-}
 
 // The sum of yi*(X-xj)/(xi-xj)*... over all j other than i.
 std::string DevSumaLagrange(Contexto& contexto, std::span<const double> números) {
@@ -63,7 +43,7 @@ std::string DevPolLagrange(Contexto& contexto, std::span<const double> números)
 } // namespace
 
 void ResolverPolinomioLagrange(Contexto& contexto, Hoja& hoja) {
-    const auto números = CargaPuntosLagrange(contexto, hoja);
+    const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaPuntos);
     if (!números)
         return;
     const std::string polinomio = DevPolLagrange(contexto, *números);

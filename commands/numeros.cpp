@@ -37,7 +37,7 @@ double DevMcm(double a, double b) {
 // Joins all the numbers of the worksheet by one operation of two.
 std::optional<double> ReduceNúmeros(Contexto& contexto, Hoja& hoja,
                                     double (*operación)(double, double)) {
-    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::DoblePrecisión, 0);
+    const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaEnteros);
     if (!números)
         return std::nullopt;
     double resultado = números->front();
@@ -51,7 +51,7 @@ std::optional<double> ReduceNúmeros(Contexto& contexto, Hoja& hoja,
 // The absolute value of the one integer on the worksheet, which may not be 0. Fault: run-time error
 // 6 for -2147483648.
 std::optional<std::int32_t> CargaEnteroPositivo(Contexto& contexto, Hoja& hoja) {
-    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::EnterosLargos, 1);
+    const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaEntero);
     if (!números)
         return std::nullopt;
     const std::int64_t entero = DevEntero(números->front());
@@ -123,14 +123,12 @@ void ResolverDescomposiciónEnFactoresPrimos(Contexto& contexto, Hoja& hoja) {
 
 void ResolverNúmerosPrimos(Contexto& contexto, Hoja& hoja) {
     // Neither 0 nor a negative number is of this class.
-    const auto números = CargaNúmeros(contexto, hoja, ClaseNúmeros::EnterosPositivos, 2);
+    const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaDosEnteros);
     if (!números)
         return;
     const auto [desde, hasta] = std::minmax({DevEntero(números->at(0)), DevEntero(números->at(1))});
     if (hasta - desde > MáximaDiferencia) {
-        contexto.Avisa("La diferencia máxima permitida entre los valores es de 25000 unidades "
-                       "utilize diferencias más pequeñas y halle lo números en varias veces");
-        return;
+        return MuestraRechazo(contexto, {.motivo = Motivo::PrimosDemasiadoSeparados});
     }
     BuscaPrimos(contexto, hoja, static_cast<std::int32_t>(desde), static_cast<std::int32_t>(hasta));
 }

@@ -20,61 +20,58 @@ constexpr std::string_view Ecuaciones = "Ecuaciones y funciones";
 constexpr std::string_view Numérico = "Cálculo numérico con una variable";
 constexpr std::string_view Simbólico = "Cálculo simbólico con una variable";
 constexpr std::string_view Multivariable = "Cálculo simbólico con más de una variable";
-constexpr std::string_view Función = "f(x)";
-constexpr std::string_view FunciónYExtremos = "f(x),extremo1,extremo2";
-constexpr std::string_view FuncionesRacionales = "f(x),g(x),...";
 
 constexpr std::array Órdenes = {
-    Orden{"Resolver sistema lineal", Ecuaciones, "Resolver sistema lineal", "ecuaciones",
+    Orden{"Resolver sistema lineal", Ecuaciones, "Resolver sistema lineal", FormaEcuaciones,
           "2*X(1)+X(2)=3\r\nX(1)-X(2)=-3/2", ResolverSistemaLineal1},
-    Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", "enteros", "12,18",
-          ResolverMcdNúmeros},
-    Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", "enteros",
+    Orden{"Hallar máximo común divisor", Números, "Hallar máximo común divisor", FormaEnteros,
+          "12,18", ResolverMcdNúmeros},
+    Orden{"Hallar mínimo común múltiplo", Números, "Hallar mínimo común múltiplo", FormaEnteros,
           "12,18", ResolverMcmNúmeros},
-    Orden{"Hallar divisores", Números, "Hallar divisores", "entero", "360",
+    Orden{"Hallar divisores", Números, "Hallar divisores", FormaEntero, "360",
           ResolverDivisoresNúmero},
-    Orden{"Hallar factores primos", Números, "Descomponer en factores primos", "entero", "360",
+    Orden{"Hallar factores primos", Números, "Descomponer en factores primos", FormaEntero, "360",
           ResolverDescomposiciónEnFactoresPrimos},
-    Orden{"Hallar números primos", Números, "Hallar números primos", "entero,entero", "2,100",
+    Orden{"Hallar números primos", Números, "Hallar números primos", FormaDosEnteros, "2,100",
           ResolverNúmerosPrimos},
-    Orden{"Hallar soluciones ecuación", Numérico, "Hallar soluciones", FunciónYExtremos,
+    Orden{"Hallar soluciones ecuación", Numérico, "Hallar soluciones", FormaFunciónYExtremos,
           "X^2-4,-5,5", ResolverSolucionesEcuación},
-    Orden{"Hallar máximos", Numérico, "Hallar máximos", FunciónYExtremos, "X^3-3*X,-5,5",
+    Orden{"Hallar máximos", Numérico, "Hallar máximos", FormaFunciónYExtremos, "X^3-3*X,-5,5",
           ResolverMáximosEcuación},
-    Orden{"Hallar mínimos", Numérico, "Hallar mínimos", FunciónYExtremos, "X^3-3*X,-5,5",
+    Orden{"Hallar mínimos", Numérico, "Hallar mínimos", FormaFunciónYExtremos, "X^3-3*X,-5,5",
           ResolverMínimosEcuación},
-    Orden{"Hallar puntos de inflexión", Numérico, "Hallar puntos de inflexión", FunciónYExtremos,
-          "X^3,-1,1", ResolverPuntosInflexión},
-    Orden{"Hallar área", Numérico, "Hallar área en un intervalo", FunciónYExtremos, "X,0,1",
+    Orden{"Hallar puntos de inflexión", Numérico, "Hallar puntos de inflexión",
+          FormaFunciónYExtremos, "X^3,-1,1", ResolverPuntosInflexión},
+    Orden{"Hallar área", Numérico, "Hallar área en un intervalo", FormaFunciónYExtremos, "X,0,1",
           ResolverArea},
-    Orden{"Derivar", Simbólico, "Hallar derivada", Función, "X*EXP(X)", ResolverDerivada},
+    Orden{"Derivar", Simbólico, "Hallar derivada", FormaFunción, "X*EXP(X)", ResolverDerivada},
     Orden{"Hallar tangente", Simbólico, "Hallar la ecuación de la tangente a un punto",
-          "f(x),punto", "X^2,3", ResolverTangente},
+          FormaFunciónYPunto, "X^2,3", ResolverTangente},
     Orden{"Hallar secante", Simbólico, "Hallar la ecuación de la secante a dos puntos",
-          FunciónYExtremos, "X^2,1,3", ResolverSecante},
-    Orden{"Desarrollo completo", Simbólico, "Desarrollar totalmente", Función, "X/2+X^2/3",
+          FormaFunciónYExtremos, "X^2,1,3", ResolverSecante},
+    Orden{"Desarrollo completo", Simbólico, "Desarrollar totalmente", FormaFunción, "X/2+X^2/3",
           ResolverDesarrolloCompleto},
-    Orden{"Desarrollo simplificado", Simbólico, "Desarrollar simplificadamente", Función, "(X+1)^3",
-          ResolverDesarrolloSimplificado},
-    Orden{"Simplificar función racional", Simbólico, "Simplificar función racional", Función,
+    Orden{"Desarrollo simplificado", Simbólico, "Desarrollar simplificadamente", FormaFunción,
+          "(X+1)^3", ResolverDesarrolloSimplificado},
+    Orden{"Simplificar función racional", Simbólico, "Simplificar función racional", FormaFunción,
           "(X^2-3*X+2)/(X^2-1)", ResolverSimplificarFunciónRacional},
-    Orden{"Factorizar función racional", Simbólico, "Factorizar función racional", FunciónYExtremos,
-          "(X^2-1)/(X^2+X),-10,10", ResolverFactorizarFunciónRacional},
+    Orden{"Factorizar función racional", Simbólico, "Factorizar función racional",
+          FormaFunciónYExtremos, "(X^2-1)/(X^2+X),-10,10", ResolverFactorizarFunciónRacional},
     Orden{"Máximo común divisor función racional", Simbólico,
-          "Máximo común divisor funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          "Máximo común divisor funciones racionales", FormaRacionales, "X^3-1,X^2-1",
           ResolverMáximoComúnDivisorFunciónRacional},
     Orden{"Mínimo común múltiplo función racional", Simbólico,
-          "Mínimo común múltiplo funciones racionales", FuncionesRacionales, "X^3-1,X^2-1",
+          "Mínimo común múltiplo funciones racionales", FormaRacionales, "X^3-1,X^2-1",
           ResolverMínimoComúnMúltiploFunciónRacional},
     Orden{"Desarrollo completo multivariable", Multivariable, "Desarrollar totalmente",
-          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloCompletoMultivariable},
+          FormaMultivariable, "(a+b)^2*(x-y)", ResolverDesarrolloCompletoMultivariable},
     Orden{"Desarrollo simplificado multivariable", Multivariable, "Desarrollar simplificadamente",
-          "f(...,x,y,z,...,s)", "(a+b)^2*(x-y)", ResolverDesarrolloSimplificadoMultivariable},
+          FormaMultivariable, "(a+b)^2*(x-y)", ResolverDesarrolloSimplificadoMultivariable},
     Orden{"Convertir coeficientes a fracción continua", Números,
-          "Convertir coeficienes a fracción continua", Función, ".5*X^2+.125*X",
+          "Convertir coeficienes a fracción continua", FormaFunción, ".5*X^2+.125*X",
           ResoverConvertirCoeficientesFracciónContinua},
-    Orden{"Hallar polinomio de Lagrange", Ecuaciones, "Hallar polinomio de Lagrange",
-          "x1,y1,x2,y2,...", "2,4,3,9,4,16,5,25", ResolverPolinomioLagrange},
+    Orden{"Hallar polinomio de Lagrange", Ecuaciones, "Hallar polinomio de Lagrange", FormaPuntos,
+          "2,4,3,9,4,16,5,25", ResolverPolinomioLagrange},
 };
 
 } // namespace
@@ -89,6 +86,7 @@ void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden
         return;
     const std::size_t longitudAnterior = hoja.texto.size();
     hoja.líneaSeleccionada.reset();
+    hoja.hallazgos.clear();
     try {
         EjecutaConTrampa(contexto, [&] {
             hoja.líneas = LeeTextBox(hoja.texto);
@@ -98,6 +96,7 @@ void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden
     } catch (const OrdenCancelada&) {
         hoja.texto.resize(longitudAnterior); // commands only append
         hoja.líneaSeleccionada.reset();
+        hoja.hallazgos.clear();
     }
 }
 

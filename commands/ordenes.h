@@ -2,9 +2,13 @@
 // documentation all come from this one table.
 #pragma once
 
+#include "commands/formas.h"
 #include "commands/hoja.h"
 #include "engine/base/contexto.h"
+#include "engine/base/fallos.h"
 
+#include <exception>
+#include <new>
 #include <span>
 #include <string_view>
 
@@ -14,7 +18,7 @@ struct Orden {
     std::string_view texto;               // the command text, which selects the worker
     std::string_view menú;                // the menu that it stands in
     std::string_view título;              // its caption there
-    std::string_view datos;               // the form of its input
+    Forma forma;                          // of its data
     std::string_view ejemplo;             // a worksheet that it works on
     void (*trabajador)(Contexto&, Hoja&); // reads hoja.líneas, appends to hoja.texto
 };
@@ -23,7 +27,8 @@ struct Orden {
 std::span<const Orden> DevÓrdenes();
 
 // Runs the command with that text (exact, case-sensitive) on the worksheet; an unknown text does
-// nothing. Before it runs, hoja.líneas is made anew and hoja.líneaSeleccionada cleared.
+// nothing. Before it runs, hoja.líneas is made anew, hoja.líneaSeleccionada and hoja.hallazgos
+// are cleared.
 // A run-time error ends it with MensajeErrorGeneral, what it had written stays; cancelled by the
 // watcher, the worksheet is as it was.
 void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden);

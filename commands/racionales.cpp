@@ -2,7 +2,6 @@
 
 #include "commands/datos_funcion.h"
 #include "engine/lenguaje/compila.h"
-#include "engine/lenguaje/sintaxis.h"
 #include "engine/polinomios/factores.h"
 #include "engine/polinomios/racional.h"
 
@@ -19,29 +18,20 @@ constexpr int Pasos = 1000; // of the search for roots
 // Reads the functions of all the instruction lines, separated by commas, by lines or by both. None:
 // a message has been shown, and the line is selected where a function of it is refused.
 std::optional<std::vector<Racional>> CargaFuncionesRacionales(Contexto& contexto, Hoja& hoja) {
-    if (hoja.líneas.empty()) {
-        contexto.Avisa("Se eperabán una lista de funciones racionales "
-                       "separadas por comas, en la forma f(x),g(x),..., o bien "
-                       "separadas una o más líneas una de otra.");
-        return std::nullopt;
-    }
+    const Lectura lectura = LeeDatos(contexto, FormaRacionales, hoja.líneas);
     std::vector<Racional> funciones;
-    for (const std::string& línea : hoja.líneas) {
-        for (std::size_t desde = 0, coma = 0; coma != std::string::npos; desde = coma + 1) {
-            contexto.Vigila();
-            coma = línea.find(',', desde);
-            std::string función = línea.substr(desde, coma - desde);
-            std::optional<Racional> racional;
-            if (Sintaxis(contexto, función))
-                racional = EvalúaRacional(contexto, CompilaExpresión(función));
-            if (!racional) {
-                SeleccionaLínea(hoja, línea);
-                return std::nullopt;
-            }
-            funciones.push_back(*std::move(racional));
+    // Those in front of a refused one may be refused themselves.
+    for (const auto& [función, línea] : std::get<DatosFunciones>(lectura.datos).funciones) {
+        contexto.Vigila();
+        std::optional<Racional> racional = EvalúaRacional(contexto, CompilaExpresión(función));
+        if (!racional) {
+            SeleccionaLínea(hoja, hoja.líneas[línea]);
+            return std::nullopt;
         }
+        funciones.push_back(*std::move(racional));
     }
-    return funciones;
+    return Acepta(contexto, hoja, lectura.rechazo) ? std::optional(std::move(funciones))
+                                                   : std::nullopt;
 }
 
 using OperaciónDeLista = Racional (*)(Contexto&, std::span<const Racional>);

@@ -1,5 +1,6 @@
 #include "commands/sistemas.h"
 
+#include "commands/formas.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
 #include "engine/sistemas/ecuacion_lineal.h"
@@ -11,25 +12,6 @@
 
 namespace quiralto {
 namespace {
-
-std::string SinBlancos(std::string_view línea) {
-    std::string limpia(línea);
-    std::erase_if(limpia, [](char c) { return c == ' ' || c == '\t'; });
-    return limpia;
-}
-
-std::optional<EcuaciónLineal> LeeEcuación(Contexto& contexto, std::string_view línea) {
-    const std::string texto = Sustituye1(SinBlancos(línea));
-    if (!IgualdadCorrecta(contexto, texto))
-        return std::nullopt;
-    const std::size_t igual = texto.find('=');
-    std::string izquierda = texto.substr(0, igual);
-    std::string derecha = texto.substr(igual + 1);
-    const GuardaPrefijo prefijo(contexto, "SLN(");
-    if (!Sintaxis(contexto, izquierda) || !Sintaxis(contexto, derecha))
-        return std::nullopt;
-    return LeeEcuaciónLineal(contexto, SimplificaSignos(izquierda + "-(" + derecha + ")"));
-}
 
 void EscribeTérmino(std::string& salida, double coeficiente, std::size_t índice, bool primero) {
     if (coeficiente > 0 && !primero)
@@ -65,19 +47,20 @@ void EscribeSolución(std::string& salida, const SistemaLineal& sistema, std::si
 } // namespace
 
 void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
+    const GuardaPrefijo prefijo(contexto, "SLN(");
+    const Lectura lectura = LeeDatos(contexto, FormaEcuaciones, hoja.líneas);
     std::vector<EcuaciónLineal> ecuaciones;
-    ecuaciones.reserve(hoja.líneas.size());
-    for (const std::string& línea : hoja.líneas) {
+    // Those in front of a refused one may be refused themselves.
+    for (const auto& [izquierda, derecha] : std::get<DatosEcuaciones>(lectura.datos).ecuaciones) {
         contexto.Vigila();
-        std::optional<EcuaciónLineal> ecuación = LeeEcuación(contexto, línea);
+        std::optional<EcuaciónLineal> ecuación =
+            LeeEcuaciónLineal(contexto, SimplificaSignos(izquierda + "-(" + derecha + ")"));
         if (!ecuación)
-            return SeleccionaLínea(hoja, línea);
+            return SeleccionaLínea(hoja, hoja.líneas[ecuaciones.size()]);
         ecuaciones.push_back(std::move(*ecuación));
     }
-    if (ecuaciones.empty())
-        return contexto.Avisa("Se requiere al menos una ecuación lineal, el formato de la "
-                              "las incógnitas debe ser X(i), donde i es un valor entre 1 y 256 "
-                              " por ejemplo :\r\n\r\n2*X(1)+X(2)=3\r\nX(1)-X(2)=-3/2");
+    if (!Acepta(contexto, hoja, lectura.rechazo))
+        return;
     SistemaLineal sistema(contexto, ecuaciones);
     sistema.Elimina();
     std::size_t fila = 0;
@@ -105,33 +88,6 @@ std::string ResolverSistemaLineal4(Contexto& contexto, const SistemaLineal& sist
         salida += "\r\n'SLN(i), indica que la solución de la variable 'X(i)' "
                   "es un número real cualquiera.";
     return salida;
-}
-
-std::string Sustituye1(std::string_view texto) {
-    std::string sustituido;
-    sustituido.reserve(texto.size() + texto.size() / 2);
-    for (std::size_t i = 0; i < texto.size(); ++i) {
-        const bool incógnita =
-            (texto[i] == 'X' || texto[i] == 'x') && i + 1 < texto.size() && texto[i + 1] == '(';
-        if (incógnita)
-            sustituido += "SLN";
-        else
-            sustituido += texto[i];
-    }
-    return sustituido;
-}
-
-bool IgualdadCorrecta(Contexto& contexto, std::string_view texto) {
-    const std::size_t igual = texto.find('=');
-    if (texto.starts_with('=') || texto.ends_with('='))
-        contexto.Avisa("No se permite comenzar o terninar con el signo '='");
-    else if (igual == std::string_view::npos)
-        contexto.Avisa("Esta expresión carece del signo de igualdad");
-    else if (texto.find('=', igual + 1) != std::string_view::npos)
-        contexto.Avisa("Sólo se permite un sólo signo igual");
-    else
-        return true;
-    return false;
 }
 
 } // namespace quiralto

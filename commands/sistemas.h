@@ -6,7 +6,6 @@
 #include "engine/sistemas/sistema_lineal.h"
 
 #include <string>
-#include <string_view>
 
 namespace quiralto {
 
@@ -17,11 +16,5 @@ void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja);
 // The output for an eliminated system that is compatible: every unknown, the highest first, and
 // what SLN(i) means where one is free. The watcher is asked.
 std::string ResolverSistemaLineal4(Contexto& contexto, const SistemaLineal& sistema);
-
-// Every "X(" and "x(" as "SLN(".
-std::string Sustituye1(std::string_view texto);
-
-// Whether the text has one "=", neither first nor last; otherwise a message has been shown.
-bool IgualdadCorrecta(Contexto& contexto, std::string_view texto);
 
 } // namespace quiralto

@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lon
     const std::string texto = ConCrLf(LeeEntrada(datos, longitud));
     for (const Orden& orden : DevÓrdenes()) {
         BancoDeFuzz banco;
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, orden.texto);
         Exige(hoja.texto.starts_with(texto), "commands only append", texto);
         if (hoja.líneaSeleccionada)

@@ -25,7 +25,7 @@ constexpr double B = 10.91;
 
 // What a command has added behind the two line breaks.
 std::string Resuelve(Banco& banco, const std::string& línea, std::string_view orden) {
-    Hoja hoja{.texto = línea, .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja(línea);
     EjecutaInstrucciones(banco.contexto, hoja, orden);
     EXPECT_EQ(banco.TomaMensajes(), std::vector<Mensaje>{}) << línea;
     EXPECT_TRUE(hoja.texto.starts_with(línea + "\r\n\r\n")) << línea;
@@ -285,9 +285,7 @@ TEST(AnálisisSinFin, NingúnIntervaloHaceUnaBúsquedaInterminable) {
                     banco.contexto.DígitosRedondeo = cifras;
                     int preguntas = 0;
                     banco.vigilante.continúa = [&] { return ++preguntas < MáximoPreguntas; };
-                    Hoja hoja{.texto = std::string(f).append(",").append(a).append(",").append(b),
-                              .líneas = {},
-                              .líneaSeleccionada = {}};
+                    Hoja hoja(std::string(f).append(",").append(a).append(",").append(b));
                     EjecutaInstrucciones(banco.contexto, hoja, orden);
                     EXPECT_LT(preguntas, MáximoPreguntas)
                         << f << ',' << a << ',' << b << ' ' << orden << ' ' << cifras;

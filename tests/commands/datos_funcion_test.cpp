@@ -26,7 +26,9 @@ constexpr const char* Mayor = "Se esperaba que el extremo superior fuera mayor q
 constexpr const char* Lógica = "Error de lógica en la expresión, verifique la sintaxis";
 
 Hoja DevHoja(const std::string& texto) {
-    return {.texto = texto, .líneas = LeeTextBox(texto), .líneaSeleccionada = {}};
+    Hoja hoja(texto);
+    hoja.líneas = LeeTextBox(texto);
+    return hoja;
 }
 
 TEST(CargaDatosFunción, AceptaLasTresFormas) {
@@ -46,6 +48,10 @@ TEST(CargaDatosFunción, AceptaLasTresFormas) {
         {TipoDatos::FunciónYExtremos, "X,+1,+1.5", "X", 1, 1.5},
         {TipoDatos::FunciónYExtremos, "X,-0,.001", "X", 0, .001},
         {TipoDatos::FunciónYExtremos, "X,00012,13", "X", 12, 13},
+        // Behind the second end no further comma is looked for.
+        {TipoDatos::FunciónYExtremos, "X^2,1,2,3", "X^2", 1, 2},
+        {TipoDatos::FunciónYExtremos, "X^2,1,2,", "X^2", 1, 2},
+        {TipoDatos::FunciónYExtremos, "X^2,1,2,ñ,,SIN(", "X^2", 1, 2},
         // The numbers are taken as typed, not rounded to DígitosRedondeo.
         {TipoDatos::FunciónYExtremos, "X,.1234567890123,.1234567890124", "X", .1234567890123,
          .1234567890124},
@@ -98,14 +104,15 @@ TEST(CargaDatosFunción, RechazaConUnMensajeYEligeLaLíneaQueConoce) {
         {TipoDatos::FunciónYExtremos, "X,0,1\r\n3", Uso3, {}},
         {TipoDatos::FunciónYExtremos, "X", Uso3, {}},
         {TipoDatos::FunciónYExtremos, "X,0", Uso3, {}},
-        {TipoDatos::FunciónYExtremos, "X,0,1,2", Uso3, {}},
         {TipoDatos::FunciónYExtremos, "X,a", Doble, "X,a"},
         {TipoDatos::FunciónYExtremos, "X,0,b", Doble, "X,0,b"},
         {TipoDatos::FunciónYExtremos, "X,0,b,2", Doble, "X,0,b,2"},
+        {TipoDatos::FunciónYExtremos, "X,,1,2", Doble, "X,,1,2"},
         {TipoDatos::FunciónYExtremos, "X,0,1E2", Doble, "X,0,1E2"},
         {TipoDatos::FunciónYExtremos, "X,0,", Doble, "X,0,"},
         {TipoDatos::FunciónYExtremos, "X^2,3,3", Mayor, "X^2,3,3"},
         {TipoDatos::FunciónYExtremos, "X^2,7,3", Mayor, "X^2,7,3"},
+        {TipoDatos::FunciónYExtremos, "X^2,3,1,7", Mayor, "X^2,3,1,7"},
         {TipoDatos::FunciónYExtremos, "X,-0,0", Mayor, "X,-0,0"},
         {TipoDatos::FunciónYExtremos, "1..2,7,3", Lógica, "1..2,7,3"},
     };

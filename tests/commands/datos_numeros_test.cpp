@@ -16,7 +16,8 @@ struct Lectura {
 
 Lectura Lee(const std::string& texto, ClaseNúmeros clase, std::size_t cantidad) {
     Banco banco;
-    Hoja hoja{.texto = texto, .líneas = LeeTextBox(texto), .líneaSeleccionada = {}};
+    Hoja hoja(texto);
+    hoja.líneas = LeeTextBox(texto);
     Lectura lectura;
     lectura.números = CargaNúmeros(banco.contexto, hoja, clase, cantidad);
     lectura.mensajes = banco.TomaMensajes();
@@ -156,7 +157,8 @@ TEST(CargaNúmeros, LeeUnMillónDeNúmerosYSePuedeCancelar) {
 
     Banco banco;
     banco.vigilante.continúa = [] { return false; };
-    Hoja hoja{.texto = texto, .líneas = LeeTextBox(texto), .líneaSeleccionada = {}};
+    Hoja hoja(texto);
+    hoja.líneas = LeeTextBox(texto);
     EXPECT_THROW(CargaNúmeros(banco.contexto, hoja, Doble, 0), OrdenCancelada);
 }
 

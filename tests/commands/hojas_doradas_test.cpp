@@ -23,7 +23,7 @@ TEST_P(HojasDoradas, QuedanComoSeEspera) {
     Banco banco;
     banco.contexto.DígitosRedondeo = dorada.cifras;
     CargaPrimos(banco.contexto, QUIRALTO_PRIMOS);
-    Hoja hoja{.texto = ConCrLf(dorada.hoja), .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja(ConCrLf(dorada.hoja));
     EjecutaInstrucciones(banco.contexto, hoja, dorada.orden);
     EXPECT_EQ(ConLf(hoja.texto), dorada.queda);
     EXPECT_EQ(DevMensajes(banco.TomaMensajes(), hoja.líneaSeleccionada), dorada.mensajes);

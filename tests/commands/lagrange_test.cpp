@@ -14,7 +14,7 @@ namespace {
 class Lagrange : public testing::Test {
 protected:
     std::string Ejecuta(const std::string& texto) {
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, "Hallar polinomio de Lagrange");
         EXPECT_EQ(hoja.texto.substr(0, texto.size()), texto);
         return hoja.texto.substr(texto.size());

@@ -12,10 +12,6 @@ namespace {
 
 constexpr const char* Soluciones = "Hallar soluciones ecuación";
 
-Hoja DevHoja(const std::string& texto) {
-    return {.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
-}
-
 std::vector<Mensaje> ErrorGeneral(const std::string& númeroYTipo) {
     return {{Icono::Crítico, "Se produjo el error número :" + númeroYTipo +
                                  ". Utilice valores diferentes para evitar este tipo de error. El "
@@ -28,7 +24,7 @@ TEST(EjecutaInstrucciones, UnTextoDesconocidoNoHaceNada) {
           "Hallar soluciones ecuación ", " Hallar soluciones ecuación", "Hallar soluciones",
           "Hallar soluciones ecuacion"}) {
         Banco banco;
-        Hoja hoja = DevHoja("X,0,1");
+        Hoja hoja("X,0,1");
         hoja.líneas = {"antes"};
         hoja.líneaSeleccionada = "antes";
         EjecutaInstrucciones(banco.contexto, hoja, orden);
@@ -43,7 +39,7 @@ TEST(EjecutaInstrucciones, CadaOrdenTrabajaConSuEjemplo) {
     for (const Orden& orden : DevÓrdenes()) {
         Banco banco;
         CargaPrimos(banco.contexto, QUIRALTO_PRIMOS);
-        Hoja hoja = DevHoja(std::string(orden.ejemplo));
+        Hoja hoja(std::string(orden.ejemplo));
         EjecutaInstrucciones(banco.contexto, hoja, orden.texto);
         EXPECT_EQ(banco.TomaMensajes(), std::vector<Mensaje>{}) << orden.texto;
         EXPECT_TRUE(hoja.texto.starts_with(orden.ejemplo)) << orden.texto;
@@ -53,7 +49,7 @@ TEST(EjecutaInstrucciones, CadaOrdenTrabajaConSuEjemplo) {
 
 TEST(EjecutaInstrucciones, HaceDeNuevoLaListaYOlvidaLaLíneaElegida) {
     Banco banco;
-    Hoja hoja = DevHoja("x,0,1");
+    Hoja hoja("x,0,1");
     EjecutaInstrucciones(banco.contexto, hoja, Soluciones);
     EXPECT_EQ(hoja.líneaSeleccionada, "x,0,1");
     hoja.texto = "X,0,1\r\n'nota";
@@ -70,14 +66,14 @@ TEST(EjecutaInstrucciones, UnaOrdenCanceladaDejaLaHojaComoEstaba) {
         int cuántas = 0; // how often an undisturbed run asks the watcher
         Banco completa;
         completa.vigilante.continúa = [&] { return ++cuántas > 0; };
-        Hoja entera = DevHoja(antes);
+        Hoja entera(antes);
         EjecutaInstrucciones(completa.contexto, entera, orden.texto);
         ASSERT_GT(cuántas, 0) << orden.texto << " never asks whether to go on";
         for (const int últimas : {0, 1, cuántas / 2, cuántas - 1}) {
             Banco banco;
             int quedan = últimas;
             banco.vigilante.continúa = [&] { return quedan-- > 0; };
-            Hoja hoja = DevHoja(antes);
+            Hoja hoja(antes);
             EjecutaInstrucciones(banco.contexto, hoja, orden.texto);
             EXPECT_EQ(hoja.texto, antes) << orden.texto << " after " << últimas;
             EXPECT_EQ(hoja.líneaSeleccionada, std::nullopt) << orden.texto;
@@ -108,7 +104,7 @@ TEST(EjecutaInstrucciones, UnErrorDeEjecuciónDejaLoEscritoYUnMensaje) {
     for (const auto& caso : casos) {
         Banco banco;
         banco.vigilante.continúa = caso.continúa;
-        Hoja hoja = DevHoja("X,-1,1");
+        Hoja hoja("X,-1,1");
         EjecutaInstrucciones(banco.contexto, hoja, Soluciones);
         EXPECT_EQ(hoja.texto, "X,-1,1\r\n\r\n") << caso.númeroYTipo;
         EXPECT_EQ(banco.TomaMensajes(), ErrorGeneral(caso.númeroYTipo));

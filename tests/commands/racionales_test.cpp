@@ -74,7 +74,7 @@ class Racionales : public testing::Test {
 protected:
     // What the command appends to the text.
     std::string Ejecuta(const char* orden, const std::string& texto) {
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, orden);
         EXPECT_EQ(hoja.texto.substr(0, texto.size()), texto);
         seleccionada = hoja.líneaSeleccionada;

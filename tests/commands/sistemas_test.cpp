@@ -1,5 +1,5 @@
+#include "commands/ecuaciones.h"
 #include "commands/ordenes.h"
-#include "commands/sistemas.h"
 #include "engine/evaluacion/evalua.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/numeros/numero.h"
@@ -33,7 +33,7 @@ std::string EscribeEcuaciones(const Matriz& matriz) {
 
 std::string Resuelve(const std::string& texto) {
     Banco banco;
-    Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja(texto);
     EjecutaInstrucciones(banco.contexto, hoja, Texto);
     EXPECT_TRUE(banco.TomaMensajes().empty());
     return hoja.texto.substr(texto.size());
@@ -129,13 +129,13 @@ TEST(Sistemas, DeRangoMenorSeCumplenConCualquierValorDeLasLibres) {
 TEST(Sistemas, DejanElPrefijoComoEstaba) {
     for (const char* texto : {"X(1)=1", "X(1)^2=1", "1/0*X(1)=1", "X(1)=1)"}) {
         Banco banco;
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, Texto);
         EXPECT_EQ(banco.contexto.PrefijoVariable, "") << texto;
     }
     Banco banco;
     banco.vigilante.continúa = [] { return false; };
-    Hoja hoja{.texto = "X(1)=1", .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja("X(1)=1");
     EjecutaInstrucciones(banco.contexto, hoja, Texto);
     EXPECT_EQ(banco.contexto.PrefijoVariable, "");
     EXPECT_EQ(hoja.texto, "X(1)=1");
@@ -153,7 +153,7 @@ TEST(Sistemas, CanceladosDejanLaHojaComoEstaba) {
     {
         Banco banco;
         banco.vigilante.continúa = [&] { return ++cuántas > 0; };
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, Texto);
         EXPECT_GT(hoja.texto.size(), texto.size());
     }
@@ -162,7 +162,7 @@ TEST(Sistemas, CanceladosDejanLaHojaComoEstaba) {
         Banco banco;
         int quedan = últimas;
         banco.vigilante.continúa = [&] { return quedan-- > 0; };
-        Hoja hoja{.texto = texto, .líneas = {}, .líneaSeleccionada = {}};
+        Hoja hoja(texto);
         EjecutaInstrucciones(banco.contexto, hoja, Texto);
         EXPECT_EQ(hoja.texto, texto) << últimas;
         EXPECT_EQ(banco.contexto.PrefijoVariable, "") << últimas;

@@ -51,7 +51,7 @@ void CreaMenúsÓrdenes(QMenu& menú, std::span<const Orden> órdenes,
         QAction* entrada = DevFamilia(menú, orden.menú).addAction(DevQString(orden.título));
         entrada->setObjectName(nombre);
         entrada->setStatusTip(QStringLiteral("Datos: %1. Ejemplo: %2")
-                                  .arg(DevQString(orden.datos), DevQString(orden.ejemplo)));
+                                  .arg(DevQString(orden.forma.texto), DevQString(orden.ejemplo)));
         QObject::connect(entrada, &QAction::triggered, &menú,
                          [ejecuta, &orden] { ejecuta(orden); });
     }

@@ -209,7 +209,7 @@ void frmGráficas::closeEvent(QCloseEvent* suceso) {
 void frmGráficas::EjecutaOrden(std::string_view orden) {
     if (vigilante_.EnMarcha())
         return;
-    Hoja hoja{.texto = txtSalida_->DevTexto(), .líneas = {}, .líneaSeleccionada = {}};
+    Hoja hoja(txtSalida_->DevTexto());
     {
         const VigilanteVentana::Guardia guardia(vigilante_);
         EjecutaInstrucciones(contexto_, hoja, orden);
