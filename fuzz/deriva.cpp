@@ -8,8 +8,8 @@
 using namespace quiralto;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t longitud) {
-    BancoDeFuzz banco;
     std::string texto = LeeEntrada(datos, longitud);
+    BancoDeFuzz banco(texto);
     if (!Sintaxis(banco.contexto, texto))
         return 0;
     std::string derivada;

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -26,7 +27,12 @@ private:
     int quedan_ = 200'000;
 };
 
+// One input always does the same: its random numbers are its own.
 struct BancoDeFuzz {
+    explicit BancoDeFuzz(std::string_view entrada) {
+        contexto.generador.Siembra(std::hash<std::string_view>{}(entrada));
+    }
+
     SinMensajes mensajes;
     Impaciente vigilante;
     Primos tabla{};

@@ -1,0 +1,77 @@
+// What a text that the program writes must fulfil, whatever the input was.
+#pragma once
+
+#include "commands/ordenes.h"
+#include "engine/lenguaje/compila.h"
+#include "fuzz/entrada.h"
+#include "tests/valor_acotado.h"
+
+#include <array>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quiralto {
+
+inline constexpr std::array PuntosDeOráculo = {-7.25, -2.5, -0.75, 0.125, 0.875, 1.5, 3.0, 9.5};
+
+// Of a text written with so many decimal digits.
+inline Redondeo DevRedondeo(int dígitos, bool tambiénEnteros = false) {
+    return {0.5L * std::pow(10.0L, -dígitos), tambiénEnteros};
+}
+
+// The program of a text that must be of the language.
+inline Programa CompilaEscrito(const std::string& texto) {
+    try {
+        return CompilaExpresión(texto);
+    } catch (const ErrorEjecución&) {
+        Exige(false, "what is written can be read", texto);
+        throw;
+    }
+}
+
+// Where both texts have a value it is one value. The first is what was typed; the numbers of the
+// second are rounded.
+inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos) {
+    const Programa a = CompilaExpresión(typed);
+    const Programa b = CompilaExpresión(written);
+    const EvaluadorAcotado exacto(a, {});
+    const EvaluadorAcotado redondeado(b, DevRedondeo(dígitos));
+    for (const double x : PuntosDeOráculo) {
+        const auto va = exacto.Evalúa(x);
+        const auto vb = redondeado.Evalúa(x);
+        if (va && vb && !SonCompatibles(*va, *vb))
+            Exige(false, "the same value at " + std::to_string(x),
+                  std::string(typed) + "  =>  " + std::string(written));
+    }
+}
+
+// Every occurrence of `viejo` replaced.
+inline std::string Cambia(std::string texto, std::string_view viejo, std::string_view nuevo) {
+    for (std::size_t i = 0; (i = texto.find(viejo, i)) != std::string::npos; i += nuevo.size())
+        texto.replace(i, viejo.size(), nuevo);
+    return texto;
+}
+
+// What the command appends to a worksheet of these lines (ended by LF), as lines.
+struct Corrida {
+    Corrida(Contexto& contexto, std::string_view líneas, std::string_view orden)
+        : typed(ConCrLf(líneas)), hoja(typed) {
+        EjecutaInstrucciones(contexto, hoja, orden);
+        Exige(hoja.texto.starts_with(typed), "commands only append", typed);
+    }
+    // What stands behind the beginning of the last line that has it; none where no line does.
+    std::optional<std::string> TextoTras(std::string_view principio) const {
+        std::optional<std::string> texto;
+        for (const std::string_view línea : CortaLíneas(hoja.texto))
+            if (línea.starts_with(principio))
+                texto = línea.substr(principio.size());
+        return texto;
+    }
+
+    std::string typed;
+    Hoja hoja;
+};
+
+} // namespace quiralto
