@@ -1,34 +1,30 @@
 #include "cli/opciones.h"
 
-#include "engine/base/contexto.h"
+#include "cli/tabla_opciones.h"
 #include "engine/base/utf8.h"
-#include "engine/numeros/numero.h"
 
-#include <cmath>
-#include <span>
+#include <algorithm>
 
 namespace quiralto::cli {
 namespace {
 
-// A wrong call; what was expected.
-struct UsoErróneo {
-    std::string esperado;
-};
-
-// The number that the whole word is.
-double LeeDoble(const std::string& palabra, const std::string& qué) {
-    const NúmeroLeído leído = LeeNúmero(palabra);
-    if (leído.longitud == 0 || leído.longitud != palabra.size() || leído.desborda)
-        throw UsoErróneo{"se esperaba un número para " + qué};
-    return leído.valor;
+// The names of some rows: "--orden, --sintaxis o --ayuda".
+template <typename Condición> std::string Enumera(Condición&& cuáles) {
+    std::vector<std::string_view> nombres;
+    for (const Opción& opción : DevTablaOpciones())
+        if (cuáles(opción))
+            nombres.push_back(opción.nombre);
+    std::string lista;
+    for (std::size_t i = 0; i < nombres.size(); ++i) {
+        if (i > 0)
+            lista += i + 1 < nombres.size() ? ", " : " o ";
+        lista += nombres[i];
+    }
+    return lista;
 }
 
-int LeeEntero(const std::string& palabra, const std::string& qué, int mínimo, int máximo) {
-    const double valor = LeeDoble(palabra, qué);
-    if (valor != std::trunc(valor) || valor < mínimo || valor > máximo)
-        throw UsoErróneo{"se esperaba un entero de " + std::to_string(mínimo) + " a " +
-                         std::to_string(máximo) + " para " + qué};
-    return static_cast<int>(valor);
+std::string NombresDeModos() {
+    return Enumera([](const Opción& opción) { return opción.modo.has_value(); });
 }
 
 class Lector {
@@ -39,13 +35,9 @@ public:
         while (!palabras_.empty())
             LeePalabra(Toma());
         if (!modo_)
-            throw UsoErróneo{"se esperaba --orden, --sintaxis, --evaluar, --derivar, --muestrear, "
-                             "--listar, --ayuda o --version"};
+            throw UsoErróneo{"se esperaba " + NombresDeModos()};
         opciones_.modo = *modo_;
-        if (opciones_.modo != Modo::Orden && opciones_.hoja)
-            throw UsoErróneo{"no se esperaba '" + *opciones_.hoja + "'"};
-        if (opciones_.modo != Modo::Muestrear && !deMuestrear_.empty())
-            throw UsoErróneo{"se esperaba --muestrear con " + deMuestrear_};
+        CompruebaCompañía();
         CompruebaVentana();
         return opciones_;
     }
@@ -57,46 +49,53 @@ private:
         return palabra;
     }
 
+    void LeePalabra(const std::string& palabra) {
+        if (sinOpciones_ || palabra == "-" || !palabra.starts_with('-'))
+            return PonHoja(palabra);
+        if (palabra == "--") {
+            sinOpciones_ = true;
+            return;
+        }
+        const std::size_t igual = palabra.starts_with("--") ? palabra.find('=') : std::string::npos;
+        const std::string nombre = palabra.substr(0, igual);
+        const auto tabla = DevTablaOpciones();
+        const auto opción =
+            std::ranges::find_if(tabla, [&](const Opción& otra) { return otra.SeLlama(nombre); });
+        if (opción == tabla.end())
+            throw UsoErróneo{"opción desconocida: " + palabra};
+        std::optional<std::string> pegado;
+        if (igual != std::string::npos)
+            pegado = palabra.substr(igual + 1);
+        PonOpción(*opción, nombre, pegado);
+    }
+
+    void PonHoja(const std::string& palabra) {
+        if (opciones_.hoja)
+            throw UsoErróneo{"se esperaba una sola hoja"};
+        opciones_.hoja = palabra;
+    }
+
+    // `nombre` is how the call has named it; `pegado` stands behind its "=".
+    void PonOpción(const Opción& opción, const std::string& nombre,
+                   const std::optional<std::string>& pegado) {
+        if (opción.modo && modo_)
+            throw UsoErróneo{"se esperaba una sola de las opciones " + NombresDeModos()};
+        if (opción.modo)
+            modo_ = opción.modo;
+        else
+            puestas_.push_back(&opción);
+        if (opción.valor.empty() && pegado)
+            throw UsoErróneo{"no se esperaba un valor detrás de " + nombre};
+        const std::string valor = opción.valor.empty() ? "" : pegado ? *pegado : TomaValor(nombre);
+        opción.pon(opciones_, nombre, valor);
+        if (opción.modo == Modo::Evaluar)
+            LeeEquis();
+    }
+
     std::string TomaValor(const std::string& opción) {
         if (palabras_.empty())
             throw UsoErróneo{"se esperaba un valor detrás de " + opción};
         return Toma();
-    }
-
-    void PonModo(Modo modo) {
-        if (modo_)
-            throw UsoErróneo{"se esperaba una sola de las opciones --orden, --sintaxis, --evaluar, "
-                             "--derivar, --muestrear, --listar, --ayuda y --version"};
-        modo_ = modo;
-    }
-
-    bool LeeModo(const std::string& palabra) {
-        static constexpr struct {
-            std::string_view nombre;
-            std::string_view sinAcento;
-            Modo modo;
-            bool conArgumento;
-        } Modos[] = {
-            {"--orden", "--orden", Modo::Orden, true},
-            {"--sintaxis", "--sintaxis", Modo::Sintaxis, true},
-            {"--evaluar", "--evaluar", Modo::Evaluar, true},
-            {"--derivar", "--derivar", Modo::Derivar, true},
-            {"--muestrear", "--muestrear", Modo::Muestrear, true},
-            {"--listar", "--listar", Modo::Listar, false},
-            {"--ayuda", "--help", Modo::Ayuda, false},
-            {"--versión", "--version", Modo::Versión, false},
-        };
-        for (const auto& m : Modos) {
-            if (palabra != m.nombre && palabra != m.sinAcento)
-                continue;
-            PonModo(m.modo);
-            if (m.conArgumento)
-                opciones_.argumento = TomaValor(palabra);
-            if (m.modo == Modo::Evaluar)
-                LeeEquis();
-            return true;
-        }
-        return false;
     }
 
     // Behind F every word is a number.
@@ -107,40 +106,21 @@ private:
             opciones_.equis.push_back(LeeDoble(Toma(), "X"));
     }
 
-    bool LeeOpciónDeMuestrear(const std::string& palabra) {
-        Ventana& ventana = opciones_.ventana;
-        const struct {
-            std::string_view nombre;
-            std::string_view sinAcento;
-            double& destino;
-        } extremos[] = {{"--xmín", "--xmin", ventana.XMín},
-                        {"--xmáx", "--xmax", ventana.XMáx},
-                        {"--ymín", "--ymin", ventana.YMín},
-                        {"--ymáx", "--ymax", ventana.YMáx}};
-        for (const auto& extremo : extremos) {
-            if (palabra == extremo.nombre || palabra == extremo.sinAcento) {
-                extremo.destino = LeeDoble(TomaValor(palabra), palabra);
-                deMuestrear_ = palabra;
-                return true;
-            }
+    void CompruebaCompañía() const {
+        if (opciones_.modo != Modo::Orden && opciones_.hoja)
+            throw UsoErróneo{"no se esperaba '" + *opciones_.hoja + "'"};
+        for (const Opción* puesta : puestas_) {
+            const auto con = puesta->con;
+            if (con.empty() || std::ranges::find(con, opciones_.modo) != con.end())
+                continue;
+            const auto vaCon = [&](const Opción& otra) {
+                return otra.modo && std::ranges::find(con, *otra.modo) != con.end();
+            };
+            throw UsoErróneo{"se esperaba " + Enumera(vaCon) + " con " +
+                             std::string(puesta->nombre)};
         }
-        if (palabra != "--puntos")
-            return false;
-        opciones_.puntos = LeeEntero(TomaValor(palabra), palabra, 1, MáximoCantidadPuntos);
-        deMuestrear_ = palabra;
-        return true;
-    }
-
-    void LeePalabra(const std::string& palabra) {
-        if (palabra == "--cifras") {
-            opciones_.cifras = LeeEntero(TomaValor(palabra), palabra, 0, MáximoDígitosRedondeo);
-        } else if (!LeeModo(palabra) && !LeeOpciónDeMuestrear(palabra)) {
-            if (palabra.starts_with("--"))
-                throw UsoErróneo{"opción desconocida: " + palabra};
-            if (opciones_.hoja)
-                throw UsoErróneo{"se esperaba una sola hoja"};
-            opciones_.hoja = palabra;
-        }
+        if (opciones_.json && opciones_.soloResultado)
+            throw UsoErróneo{"se esperaba una sola de las opciones --resultado y --json"};
     }
 
     void CompruebaVentana() const {
@@ -152,17 +132,43 @@ private:
     std::span<const std::string> palabras_;
     Opciones opciones_;
     std::optional<Modo> modo_;
-    std::string deMuestrear_;
+    std::vector<const Opción*> puestas_; // those that choose no mode
+    bool sinOpciones_ = false;           // behind "--"
 };
+
+// The columns that a text takes; none of the table's needs more than one for a character.
+std::size_t Anchura(std::string_view texto) {
+    std::size_t caracteres = 0;
+    for (std::size_t i = 0; i < texto.size(); i += LongitudCarácter(texto, i))
+        ++caracteres;
+    return caracteres;
+}
+
+// A row of the list in --ayuda: the option, and what it does in a column of its own.
+std::string DevRenglón(const Opción& opción) {
+    constexpr std::size_t Columna = 20;
+    std::string renglón = "  ";
+    if (!opción.corta.empty())
+        renglón.append(opción.corta) += ", ";
+    renglón += opción.nombre;
+    if (!opción.valor.empty())
+        (renglón += ' ') += opción.valor;
+    renglón.append(Columna - Anchura(renglón), ' ');
+    for (const char c : opción.ayuda) {
+        renglón += c;
+        if (c == '\n')
+            renglón.append(Columna, ' ');
+    }
+    return renglón + '\n';
+}
 
 } // namespace
 
 std::optional<Opciones> LeeOpciones(const std::vector<std::string>& palabras, std::string& error) {
-    for (const std::string& palabra : palabras) {
-        if (!EsUtf8(palabra)) {
-            error = "se esperaba texto en UTF-8";
-            return std::nullopt;
-        }
+    if (!std::ranges::all_of(palabras,
+                             [](const std::string& palabra) { return EsUtf8(palabra); })) {
+        error = "se esperaba texto en UTF-8";
+        return std::nullopt;
     }
     try {
         return Lector(palabras).Lee();
@@ -172,27 +178,20 @@ std::optional<Opciones> LeeOpciones(const std::vector<std::string>& palabras, st
     }
 }
 
-std::string_view TextoAyuda() {
-    return "Uso:\n"
-           "  quiralto-cli [OPCIONES] --orden TEXTO [HOJA]\n"
-           "  quiralto-cli [OPCIONES] --sintaxis EXPRESIÓN\n"
-           "  quiralto-cli [OPCIONES] --evaluar F(X) X1 [X2 ...]\n"
-           "  quiralto-cli [OPCIONES] --derivar F(X)\n"
-           "  quiralto-cli [OPCIONES] --muestrear F(X) [--xmín V] [--xmáx V] [--ymín V] [--ymáx V]"
-           " [--puntos N]\n"
-           "  quiralto-cli --listar | --ayuda | --version\n"
+std::string TextoAyuda() {
+    std::string texto = "Uso:\n";
+    for (const Opción& opción : DevTablaOpciones())
+        if (!opción.uso.empty())
+            texto.append("  quiralto-cli ").append(opción.uso) += '\n';
+    texto += '\n';
+    for (const Opción& opción : DevTablaOpciones())
+        texto += DevRenglón(opción);
+    return texto +=
            "\n"
-           "  --cifras N      dígitos decimales del redondeo, de 0 a 15 (8)\n"
-           "  --orden TEXTO   ejecuta la orden sobre la HOJA (un fichero; la entrada estándar si\n"
-           "                  falta o es -) y escribe la hoja como queda\n"
-           "  --sintaxis E    escribe la expresión normalizada\n"
-           "  --evaluar F X1  escribe el valor de F en cada X, o 'error N'\n"
-           "  --derivar F     escribe la derivada de F sin desarrollar\n"
-           "  --muestrear F   escribe los puntos de la gráfica, en la escala de dibujo\n"
-           "  --listar        escribe los textos de las órdenes\n"
-           "\n"
-           "Los mensajes salen por la salida de errores. Estado: 0 sin mensajes, 1 con algún\n"
-           "mensaje, 2 si la llamada no es correcta.\n";
+           "El valor de una opción puede ir pegado con = (--cifras=4). Detrás de -- no hay\n"
+           "opciones. Los nombres valen con sus acentos y sin ellos. Los mensajes salen por la\n"
+           "salida de errores. Estado: 0 sin mensajes, 1 con algún mensaje, 2 si la llamada no\n"
+           "es correcta. Todo lo demás: man quiralto-cli.\n";
 }
 
 } // namespace quiralto::cli

@@ -1,7 +1,7 @@
-// The command line of quiralto-cli.
+// The command line of quiralto-cli, read.
 #pragma once
 
-#include "engine/evaluacion/muestreo.h"
+#include "cli/llamada.h"
 
 #include <optional>
 #include <string>
@@ -9,23 +9,11 @@
 
 namespace quiralto::cli {
 
-enum class Modo { Orden, Sintaxis, Evaluar, Derivar, Muestrear, Listar, Ayuda, Versión };
-
-struct Opciones {
-    Modo modo = Modo::Ayuda;
-    int cifras = 8;
-    std::string argumento;           // the command text, or the expression
-    std::optional<std::string> hoja; // the worksheet's file; none: standard input
-    std::vector<double> equis;       // of --evaluar
-    Ventana ventana;                 // of --muestrear
-    int puntos = CantidadPuntosInicial;
-};
-
 // Reads the words behind the program's name. None: they are not a valid call, and `error` says in
 // one line what was expected.
 std::optional<Opciones> LeeOpciones(const std::vector<std::string>& palabras, std::string& error);
 
 // What --ayuda prints.
-std::string_view TextoAyuda();
+std::string TextoAyuda();
 
 } // namespace quiralto::cli

@@ -35,6 +35,9 @@ std::filesystem::path DevFicheroPrimos(const std::filesystem::path& carpetaProgr
 
 void CargaPrimos(Contexto& contexto, const std::filesystem::path& fichero) {
     contexto.TablaPrimos = {};
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(fichero, error)) // a pipe would be waited for
+        return;
     std::array<char, CantidadPrimos * TamañoRegistro> bytes{};
     std::ifstream entrada(fichero, std::ios::binary);
     entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));

@@ -26,6 +26,8 @@ constexpr const char* Paréntesis = "exclamación: Desequilibrio de paréntesis 
 constexpr const char* Rango =
     "exclamación: Un número de doble precisión está fuera del rango permitido";
 constexpr const char* Uso = "exclamación: Se esperaba una línea con el formato: f(x),";
+constexpr const char* Extremos =
+    "exclamación: Se esperaba que el extremo superior fuera mayor que el inferior";
 constexpr const char* Carácter = "exclamación: Error de sintáxis: '";
 constexpr const char* Vacía = "exclamación: No ha escrito ninguna función";
 constexpr const char* TerminaMal = "exclamación: No está permitido terminar con: ";
@@ -122,7 +124,7 @@ constexpr Hostil TablaDeHostiles[] = {
     {"NumerosPegados", Repite("1E1", 300'000), Lógica, Lógica},
     {"Nulos", Molde{"X", Nulo, 1, ""}, Carácter, Carácter},
     {"NulosDeUnMega", Repite(Nulo, Mebi), Carácter, Carácter},
-    {"Campos", Molde{"X", ",1", 500'000, ""}, Uso, Uso},
+    {"Campos", Molde{"X", ",1", 500'000, ""}, Extremos, Extremos},
     {"Comas", Repite(",", 16 * Mebi), Vacía, Vacía},
     {"Lineas", Repite("X,0,1\n", 150'000), Uso, Uso},
     {"LineasVacias", Repite("\n", Mebi), Vacía, Vacía},

@@ -2,12 +2,14 @@
 
 #include "tests/cli/terminal.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <random>
+#include <sstream>
 
 namespace quiralto {
 namespace {
@@ -56,7 +58,9 @@ TEST(LosModosDeExpresión, NoEscribenNadaDeUnTextoRechazado) {
     for (const auto& [texto, mensaje] : casos)
         for (const Palabras& palabras :
              {Palabras{"--sintaxis", texto}, Palabras{"--evaluar", texto, "1"},
-              Palabras{"--derivar", texto}, Palabras{"--muestrear", texto}})
+              Palabras{"--derivar", texto}, Palabras{"--derivar", texto, "--pasos"},
+              Palabras{"--programa", texto}, Palabras{"--muestrear", texto},
+              Palabras{"--tabla", texto}})
             EXPECT_TRUE(Termina(LlamaAlTerminal(palabras), 1, "", mensaje))
                 << palabras.front() << ' ' << texto;
 }
@@ -149,6 +153,107 @@ TEST(ModoDerivar, UnaDerivadaDemasiadoGrandeEsUnErrorDeEjecución) {
         "Utilice valores diferentes para evitar este tipo de error. El proceso solicitado se "
         "cancelará.\n";
     EXPECT_TRUE(Termina(LlamaAlTerminal({"--derivar", producto}), 1, "", mensaje));
+}
+
+TEST(ModoDerivar, LosPasosVanDelanteDeLaDerivada) {
+    const struct {
+        const char* texto;
+        const char* salida;
+    } casos[] = {
+        {"X", "D(X)D\n1\n"},
+        {"5", "D(5)D\n0\n"},
+        {"X^2", "D(X^2)D\n2*X^(2-1)*D(X)D\n2*X^(2-1)*1\n"},
+        {"X--SIN(X)",
+         "D(X+SIN(X))D\n(D(X)D+D(SIN(X))D)\n(1+D(SIN(X))D)\n(1+D(X)D*COS(X))\n(1+1*COS(X))\n"},
+    };
+    for (const auto& [texto, salida] : casos) {
+        EXPECT_TRUE(Termina(LlamaAlTerminal({"--derivar", texto, "--pasos"}), 0, salida, ""));
+        EXPECT_TRUE(Termina(LlamaAlTerminal({"--pasos", "--derivar", texto}), 0, salida, ""));
+    }
+}
+
+TEST(ModoDerivar, DemasiadosPasosSonUnErrorDeEjecución) {
+    std::string suma = "X";
+    for (int i = 0; i < 20000; ++i)
+        suma += "+X";
+    const Final final = LlamaAlTerminal({"--derivar", suma, "--pasos"});
+    EXPECT_EQ(final.estado, 1);
+    EXPECT_EQ(final.salida, "");
+    EXPECT_TRUE(final.errores.starts_with("crítico: Se produjo el error número :14."));
+    EXPECT_LT(final.cpu, 2);
+}
+
+TEST(ModoPrograma, EscribeUnaLíneaPorInstrucción) {
+    const struct {
+        const char* texto;
+        const char* salida;
+    } casos[] = {
+        {"X^2+2*X", "Z2 := X ^ 2\nZ4 := 2 * X\nZ5 := Z2 + Z4\n"},
+        {"SIN(X)/3", "Z2 := 0 + X\nZ3 := SIN Z2\nZ5 := Z3 / 3\n"},
+        {"0.5000*X", "Z2 := .5 * X\n"},
+    };
+    for (const auto& [texto, salida] : casos)
+        EXPECT_TRUE(Termina(LlamaAlTerminal({"--programa", texto}), 0, salida, "")) << texto;
+}
+
+TEST(ModoPrograma, UnTextoQueNoCabeEsUnErrorDeEjecución) {
+    std::string suma = "X";
+    for (int i = 0; i < 33000; ++i)
+        suma += "+X";
+    const Final final = LlamaAlTerminal({"--programa", suma});
+    EXPECT_EQ(final.estado, 1);
+    EXPECT_EQ(final.salida, "");
+    EXPECT_TRUE(final.errores.starts_with("crítico: Se produjo el error número :6."));
+}
+
+TEST(ModoTabla, SinOpcionesSonTrescientasPartesDeLaVistaInicial) {
+    const Final final = LlamaAlTerminal({"--tabla", "X"});
+    EXPECT_EQ(final.estado, 0);
+    EXPECT_EQ(std::ranges::count(final.salida, '\n'), 301);
+    EXPECT_TRUE(final.salida.starts_with("-10\t-10\n"));
+    EXPECT_TRUE(final.salida.ends_with("\n10\t10\n"));
+}
+
+TEST(ModoTabla, EscribeXYElValorEnSuFormaMásCorta) {
+    const struct {
+        Palabras palabras;
+        const char* salida;
+    } casos[] = {
+        {{"X/3", "--xmin=0", "--xmax=1", "--puntos=1"}, "0\t0\n1\t0.3333333333333333\n"},
+        {{"1/X", "--xmin=-1", "--xmax=1", "--puntos=2"}, "-1\t-1\n0\t\n1\t1\n"},
+        {{"LOG(X)", "--xmin=-2", "--xmax=-1", "--puntos=1"}, "-2\t\n-1\t\n"},
+        {{"EXP(X)", "--xmin=709", "--xmax=711", "--puntos=1"},
+         "709\t8.218407461554972e+307\n711\t\n"},
+        {{"0*X", "--xmin=-1", "--xmax=1", "--puntos=1"}, "-1\t-0\n1\t0\n"},
+        // No error adds up.
+        {{"X", "--xmin=0", "--xmax=1", "--puntos=10"},
+         "0\t0\n0.1\t0.1\n0.2\t0.2\n0.3\t0.3\n0.4\t0.4\n0.5\t0.5\n0.6\t0.6\n0.7\t0.7\n"
+         "0.8\t0.8\n0.9\t0.9\n1\t1\n"},
+        {{"X/X", "--xmin=-1E308", "--xmax=1E308", "--puntos=4"},
+         "-1e+308\t1\n-5e+307\t1\n0\t\n5e+307\t1\n1e+308\t1\n"},
+    };
+    for (const auto& [palabras, salida] : casos) {
+        Palabras todas = palabras;
+        todas.insert(todas.begin(), "--tabla");
+        EXPECT_TRUE(Termina(LlamaAlTerminal(todas), 0, salida, "")) << palabras.front();
+    }
+}
+
+TEST(ModoTabla, LasXCrecenYNoSalenDelIntervalo) {
+    const Final final =
+        LlamaAlTerminal({"--tabla", "X", "--xmin", "0.1", "--xmax", "0.7", "--puntos", "32767"});
+    std::istringstream salida(final.salida);
+    double anterior = 0;
+    double x = 0;
+    double valor = 0;
+    int filas = 0;
+    for (; salida >> x >> valor; ++filas, anterior = x) {
+        ASSERT_GT(x, anterior);
+        ASSERT_EQ(x, valor);
+        ASSERT_TRUE(filas > 0 || x == .1);
+    }
+    EXPECT_EQ(filas, 32768);
+    EXPECT_EQ(anterior, .7);
 }
 
 // The sampling written down once more, with the steps added up.

@@ -73,13 +73,36 @@ TEST(Opciones, LosEjemplosDeLasÓrdenesFuncionan) {
     }
 }
 
+TEST(Opciones, ListarLargoEscribeLasColumnasDeLaTabla) {
+    std::string esperado;
+    for (const Orden& orden : DevÓrdenes()) {
+        std::string ejemplo(orden.ejemplo);
+        for (std::size_t i; (i = ejemplo.find("\r\n")) != std::string::npos;)
+            ejemplo.replace(i, 2, "\\n");
+        for (const std::string_view columna : {orden.texto, orden.título, orden.forma.texto})
+            esperado.append(columna) += '\t';
+        esperado += ejemplo + '\n';
+    }
+    EXPECT_TRUE(Termina(LlamaAlTerminal({"--listar", "--largo"}), 0, esperado, ""));
+    EXPECT_TRUE(Termina(LlamaAlTerminal({"--largo", "--listar"}), 0, esperado, ""));
+    EXPECT_NE(esperado.find("\\n"), std::string::npos);
+}
+
+TEST(Opciones, LosNombresCortosSonLosLargos) {
+    for (const auto& [corto, largo] :
+         {std::pair("-h", "--ayuda"), std::pair("-h", "--help"), std::pair("-V", "--version")})
+        EXPECT_EQ(LlamaAlTerminal({corto}).salida, LlamaAlTerminal({largo}).salida) << corto;
+}
+
 TEST(Opciones, LaAyudaNombraTodasLasOpciones) {
     const Final ayuda = LlamaAlTerminal({"--ayuda"});
     EXPECT_EQ(ayuda.estado, 0);
     EXPECT_EQ(ayuda.errores, "");
     for (const char* opción :
-         {"--orden", "--sintaxis", "--evaluar", "--derivar", "--muestrear", "--xmín", "--xmáx",
-          "--ymín", "--ymáx", "--puntos", "--cifras", "--listar", "--ayuda", "--version"})
+         {"--orden", "--sintaxis", "--evaluar",   "--derivar", "--muestrear", "--xmín",
+          "--xmáx",  "--ymín",     "--ymáx",      "--puntos",  "--cifras",    "--listar",
+          "--ayuda", "--version",  "--resultado", "--json",    "--pasos",     "--programa",
+          "--tabla", "--largo",    "-h",          "-V"})
         EXPECT_NE(ayuda.salida.find(opción), std::string::npos) << opción;
 }
 
@@ -134,14 +157,62 @@ TEST(Opciones, ElValorDeUnaOpciónPuedeEmpezarPorGuiones) {
     EXPECT_TRUE(EsMalUso(LlamaAlTerminal({"--cifras", "--listar"})));
 }
 
+TEST(Opciones, ElValorPuedeIrPegadoConUnIgual) {
+    const struct {
+        Palabras palabras;
+        const char* salida;
+    } casos[] = {
+        {{"--cifras=3", "--sintaxis=.12345"}, ".123\n"},
+        {{"--evaluar=X^2", "3", "-3"}, "9\n9\n"},
+        {{"--derivar=-X"}, "-1\n"},
+        {{"--programa=X^2"}, "Z2 := X ^ 2\n"},
+        {{"--tabla=X", "--xmín=0", "--xmáx=1", "--puntos=2"}, "0\t0\n0.5\t0.5\n1\t1\n"},
+        {{"--muestrear=X", "--ymin=-1", "--xmax=1", "--xmin=-1", "--ymax=1", "--puntos=1"},
+         "-10\t-10\n10\t10\n"},
+    };
+    for (const auto& [palabras, salida] : casos)
+        EXPECT_TRUE(Termina(LlamaAlTerminal(palabras), 0, salida, "")) << Junta(palabras);
+    // Only the first "=" parts the two.
+    EXPECT_TRUE(Termina(LlamaAlTerminal({"--sintaxis=X=1"}), 1, "",
+                        "exclamación: Error de sintáxis: '='\n"));
+    EXPECT_TRUE(Termina(LlamaAlTerminal({"--sintaxis="}), 1, "",
+                        "exclamación: No ha escrito ninguna función o valor numérico \n"));
+}
+
+TEST(Opciones, DetrásDeDosGuionesNoHayOpciones) {
+    const std::string salida = "X^2-2,0,2\n\n\n'Solución en X= 1.41421356\n";
+    const FicheroTemporal hoja("X^2-2,0,2\n");
+    EXPECT_TRUE(
+        Termina(LlamaAlTerminal({"--orden", Soluciones, "--", hoja.Ruta()}), 0, salida, ""));
+    // Standard input is still called "-", and a second "--" is a name.
+    EXPECT_TRUE(
+        Termina(LlamaAlTerminal({"--orden", Soluciones, "--", "-"}, "X^2-2,0,2\n"), 0, salida, ""));
+    EXPECT_TRUE(EsMalUso(LlamaAlTerminal({"--orden", Soluciones, "--", "--"})));
+    // Behind an option that needs a value it is that value.
+    EXPECT_TRUE(Termina(LlamaAlTerminal({"--sintaxis", "--"}), 1, "",
+                        "exclamación: No está permitido terminar con: -\n"));
+    EXPECT_TRUE(EsMalUso(LlamaAlTerminal({"--cifras", "--", "--listar"})));
+    EXPECT_TRUE(
+        Termina(LlamaAlTerminal({"--listar", "--"}), 0, LlamaAlTerminal({"--listar"}).salida, ""));
+}
+
 TEST(Opciones, RechazaLasLlamadasErróneas) {
     const Palabras casos[] = {
         {},
         {""},
         {"hoja.txt"},
         {"--"},
-        {"-h"},
+        {"-a"},
+        {"-hV"},
+        {"-h=1"},
+        {"-"},
         {"--nada"},
+        {"--nada=1"},
+        {"=1"},
+        {"--listar=1"},
+        {"--ayuda="},
+        {"--", "--listar"},
+        {"-h", "-V"},
         {"--Listar"},
         {"--listar", "--ayuda"},
         {"--listar", "--listar"},
@@ -166,6 +237,24 @@ TEST(Opciones, RechazaLasLlamadasErróneas) {
         {"--evaluar", "X", "0x10"},
         {"--evaluar", "X", "--"},
         {"--evaluar", "X", "1", "--cifras", "3"},
+        {"--evaluar", "X", "--", "1"},
+        {"--evaluar=X"},
+        {"--evaluar=X", "1", "--cifras=3"},
+        {"--programa"},
+        {"--programa", "X", "X"},
+        {"--tabla"},
+        {"--tabla", "X", "--ymín", "1"},
+        {"--tabla", "X", "--ymáx=1"},
+        {"--tabla", "X", "--puntos=0"},
+        {"--tabla", "X", "--xmín=10"},
+        {"--derivar", "X", "--pasos=1"},
+        {"--sintaxis", "X", "--pasos"},
+        {"--sintaxis", "X", "--json"},
+        {"--sintaxis", "X", "--resultado"},
+        {"--sintaxis", "X", "--largo"},
+        {"--orden", Soluciones, "--largo"},
+        {"--orden", Soluciones, "--json", "--resultado"},
+        {"--orden", Soluciones, "-hoja"},
         {"--muestrear"},
         {"--muestrear", "X", "1"},
         {"--muestrear", "X", "--puntos"},
@@ -198,6 +287,8 @@ TEST(Opciones, RechazaLasLlamadasErróneas) {
         {"--cifras", "16", "--listar"},
         {"--cifras", "1.5", "--listar"},
         {"--cifras", "", "--listar"},
+        {"--cifras=", "--listar"},
+        {"--cifras==4", "--listar"},
         {"--cifras", "ocho", "--listar"},
         // What the line on standard error repeats must not break it.
         {"--orden", "dos\nlíneas"},

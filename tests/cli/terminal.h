@@ -30,10 +30,11 @@ inline testing::AssertionResult Termina(const Final& final, int estado, const st
            << final.errores << "\", expected \"" << errores << '"';
 }
 
-// A wrong call: status 2, nothing on standard output, one line on standard error.
+// A wrong call: status 2, nothing on standard output, one line on standard error, which names
+// --ayuda.
 inline testing::AssertionResult EsMalUso(const Final& final) {
-    const bool unaLínea =
-        final.errores.size() > 1 && final.errores.find('\n') == final.errores.size() - 1;
+    const bool unaLínea = final.errores.find('\n') == final.errores.size() - 1 &&
+                          final.errores.ends_with(" (véase --ayuda)\n");
     if (!final.agotado && final.señal == 0 && final.estado == 2 && final.salida.empty() && unaLínea)
         return testing::AssertionSuccess();
     return testing::AssertionFailure()
