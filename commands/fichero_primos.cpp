@@ -1,5 +1,8 @@
 #include "commands/fichero_primos.h"
 
+#include "engine/numeros/primos.h"
+
+#include <array>
 #include <cstdint>
 #include <fstream>
 #include <span>
@@ -42,13 +45,13 @@ void CargaPrimos(Contexto& contexto, const std::filesystem::path& fichero) {
     std::ifstream entrada(fichero, std::ios::binary);
     entrada.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     const std::size_t registros = static_cast<std::size_t>(entrada.gcount()) / TamañoRegistro;
-    std::int32_t anterior = 0;
+    const Primos verdaderos = DevPrimerosPrimos();
     for (std::size_t i = 0; i < registros; ++i) {
         const std::int32_t primo =
             LeeRegistro(std::span(bytes).subspan(i * TamañoRegistro).first<TamañoRegistro>());
-        if (i == 0 ? primo != 2 : primo <= anterior)
+        if (primo != verdaderos[i])
             return;
-        contexto.TablaPrimos[i] = anterior = primo;
+        contexto.TablaPrimos[i] = primo;
     }
 }
 

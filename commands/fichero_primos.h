@@ -16,8 +16,8 @@ std::filesystem::path DevCarpetaPrograma();
 std::filesystem::path DevFicheroPrimos(const std::filesystem::path& carpetaPrograma);
 
 // Fills contexto.TablaPrimos from the file. What a missing or short file does not give stays 0, and
-// so does everything from the first record on that is not greater than the one before it (the first
-// must be 2): the commands that need it report it.
+// so does everything from the first record on that is not its prime: the commands that need it
+// report it.
 void CargaPrimos(Contexto& contexto, const std::filesystem::path& fichero);
 
 } // namespace quiralto

@@ -1,7 +1,7 @@
 #include "commands/numeros.h"
 
 #include "commands/datos_funcion.h"
-#include "commands/datos_numeros.h"
+#include "commands/formas.h"
 #include "engine/evaluacion/validadores.h"
 #include "engine/numeros/fraccion_continua.h"
 #include "engine/numeros/mcd_decimales.h"
@@ -23,29 +23,23 @@ std::int64_t DevEntero(double número) {
     return static_cast<std::int64_t>(std::nearbyint(número));
 }
 
-double DevMcm(double a, double b) {
-    const double mcd = DevMCDReales(a, b);
-    if (mcd == 0)
-        throw ErrorEjecución(DivisiónPorCero);
-    // The product may need more digits and a wider range than its quotient.
-    const long double mcm = static_cast<long double>(a) * b / mcd;
-    if (std::fabs(mcm) > std::numeric_limits<double>::max())
-        throw ErrorEjecución(Desbordamiento);
-    return static_cast<double>(mcm);
-}
-
 // Joins all the numbers of the worksheet by one operation of two.
-std::optional<double> ReduceNúmeros(Contexto& contexto, Hoja& hoja,
-                                    double (*operación)(double, double)) {
+template <typename Número, typename Operación>
+std::optional<Número> ReduceNúmeros(Contexto& contexto, Hoja& hoja, Número (*convierte)(double),
+                                    Operación operación) {
     const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaEnteros);
     if (!números)
         return std::nullopt;
-    double resultado = números->front();
+    Número resultado = convierte(números->front());
     for (const double número : std::span(*números).subspan(1)) {
         contexto.Vigila();
-        resultado = operación(resultado, número);
+        resultado = operación(resultado, convierte(número));
     }
     return resultado;
+}
+
+double TalCual(double número) {
+    return número;
 }
 
 // The absolute value of the one integer on the worksheet, which may not be 0. Fault: run-time error
@@ -102,13 +96,14 @@ void BuscaPrimos(Contexto& contexto, Hoja& hoja, std::int32_t desde, std::int32_
 } // namespace
 
 void ResolverMcdNúmeros(Contexto& contexto, Hoja& hoja) {
-    if (const auto mcd = ReduceNúmeros(contexto, hoja, DevMCDReales))
+    if (const auto mcd = ReduceNúmeros(contexto, hoja, TalCual, DevMCDReales))
         hoja.texto += "\r\n\r\n'Máximo común divisor hallado :" + TextoNúmero(*mcd);
 }
 
 void ResolverMcmNúmeros(Contexto& contexto, Hoja& hoja) {
-    if (const auto mcm = ReduceNúmeros(contexto, hoja, DevMcm))
-        hoja.texto += "\r\n\r\n'Mínimo común múltiplo hallado :" + TextoNúmero(*mcm);
+    // Exact all along, and rounded where it is written.
+    if (const auto mcm = ReduceNúmeros(contexto, hoja, Decimal::DesdeDouble, DevMCMReales))
+        hoja.texto += "\r\n\r\n'Mínimo común múltiplo hallado :" + TextoNúmero(mcm->ADouble());
 }
 
 void ResolverDivisoresNúmero(Contexto& contexto, Hoja& hoja) {

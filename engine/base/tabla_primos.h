@@ -11,8 +11,8 @@ namespace quiralto {
 // integer.
 inline constexpr std::size_t CantidadPrimos = 4792;
 
-// Strictly increasing from 2 on up to its end or to its first 0, behind which all are 0: what the
-// file of primes did not give.
+// The first primes up to its end or to its first 0, behind which all are 0: what the file of primes
+// did not give.
 using Primos = std::array<std::int32_t, CantidadPrimos>;
 
 } // namespace quiralto

@@ -1,7 +1,7 @@
 // Writes the primes file: the first CantidadPrimos primes, each as four bytes, the lowest first.
 // Run by the build: genera_primos FILE
 
-#include "engine/base/tabla_primos.h"
+#include "engine/numeros/primos.h"
 
 #include <fstream>
 #include <iostream>
@@ -9,22 +9,9 @@
 namespace quiralto {
 namespace {
 
-Primos HallaPrimos() {
-    Primos primos{};
-    std::size_t cantidad = 0;
-    for (std::int32_t n = 2; cantidad < CantidadPrimos; ++n) {
-        bool primo = true;
-        for (std::size_t i = 0; primo && i < cantidad && primos[i] * primos[i] <= n; ++i)
-            primo = n % primos[i] != 0;
-        if (primo)
-            primos[cantidad++] = n;
-    }
-    return primos;
-}
-
 bool Escribe(const char* fichero) {
     std::ofstream salida(fichero, std::ios::binary);
-    for (const std::int32_t primo : HallaPrimos())
+    for (const std::int32_t primo : DevPrimerosPrimos())
         for (int bits = 0; bits < 32; bits += 8)
             salida.put(static_cast<char>(primo >> bits & 0xFF));
     salida.close();

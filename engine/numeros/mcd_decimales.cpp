@@ -4,6 +4,7 @@
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 #include <utility>
 
@@ -36,6 +37,29 @@ double DevMCDReales(double a, double b) {
     if (mcd == 0)
         throw ErrorEjecución(Desbordamiento);
     return mcd;
+}
+
+Decimal Decimal::DesdeDouble(double valor) {
+    const FormaEntera forma = DevFormaEntera(valor);
+    return {valor < 0 ? -forma.mantisa : forma.mantisa, forma.exponente};
+}
+
+double Decimal::ADouble() const {
+    const Entero potencia = DevPotenciaDeDiez(std::abs(exponente));
+    return CompruebaFinito(exponente < 0 ? DevCociente(mantisa, potencia)
+                                         : (mantisa * potencia).ADouble());
+}
+
+Decimal DevMCMReales(const Decimal& a, const Decimal& b) {
+    const int exponente = std::min(a.exponente, b.exponente);
+    const Entero enteraA = a.mantisa * DevPotenciaDeDiez(a.exponente - exponente);
+    const Entero enteraB = b.mantisa * DevPotenciaDeDiez(b.exponente - exponente);
+    const Entero mcd = DevMCD(enteraA, enteraB);
+    if (mcd.EsCero())
+        throw ErrorEjecución(DivisiónPorCero);
+    Decimal mcm{Entero::Divide(enteraA, mcd).cociente * enteraB, exponente};
+    mcm.ADouble(); // a list whose multiple leaves the range ends there
+    return mcm;
 }
 
 } // namespace quiralto

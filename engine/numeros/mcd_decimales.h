@@ -1,5 +1,7 @@
-// The greatest common divisor of two Doubles, decimals included.
+// The greatest common divisor and the least common multiple of numbers, decimals included.
 #pragma once
+
+#include "engine/numeros/entero.h"
 
 namespace quiralto {
 
@@ -8,5 +10,20 @@ namespace quiralto {
 // the other one as it is, sign included. Euclid's algorithm on integers, exact throughout. Fault:
 // run-time error 6 where the result is too small for a Double.
 double DevMCDReales(double a, double b);
+
+// A number of any length: mantisa * 10^exponente.
+struct Decimal {
+    Entero mantisa;
+    int exponente = 0;
+
+    // What the number is written with: DevFormaEntera and the sign.
+    static Decimal DesdeDouble(double valor);
+    // The nearest one. Fault: run-time error 6 beyond the Double range.
+    double ADouble() const;
+};
+
+// a * b over their greatest common divisor, exact, with the sign of the product; 0 where one of
+// them is 0. Faults: run-time error 11 where both are 0, 6 beyond the Double range.
+Decimal DevMCMReales(const Decimal& a, const Decimal& b);
 
 } // namespace quiralto

@@ -2,6 +2,7 @@
 
 #include "engine/base/caracteres.h"
 #include "engine/base/fallos.h"
+#include "engine/numeros/enteros_en_double.h"
 
 #include <algorithm>
 #include <array>
@@ -180,9 +181,8 @@ int DecimalesNúmero(double valor) {
 }
 
 FormaEntera DevFormaEntera(double valor) {
-    constexpr double MáximoEntero = 9007199254740992; // 2^53
     const double absoluto = std::fabs(CompruebaFinito(valor));
-    if (absoluto <= MáximoEntero && std::trunc(absoluto) == absoluto)
+    if (EsEnteroExacto(absoluto))
         return {static_cast<std::int64_t>(absoluto), 0};
     const FormaDecimal decimal = DevFormaDecimal(absoluto);
     FormaEntera forma{0, decimal.exponente - (decimal.cantidad - 1)};

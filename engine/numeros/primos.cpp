@@ -3,6 +3,7 @@
 #include "engine/base/fallos.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 #include <utility>
@@ -59,19 +60,23 @@ Criba CribaImpares(const Primos& tabla, std::uint32_t primero, std::uint32_t has
 
 } // namespace
 
-bool EsPrimoTabla(const Primos& tabla, std::int32_t n) {
-    if (n < 2)
-        return false;
-    const auto raíz = static_cast<std::int32_t>(DevRaízEntera(static_cast<std::uint32_t>(n)));
-    for (const std::int32_t p : tabla) {
-        if (p == 0)
-            throw ErrorEjecución(DivisiónPorCero);
-        if (p > raíz)
-            return true;
-        if (n % p == 0)
-            return false;
+Primos DevPrimerosPrimos() {
+    constexpr std::size_t Último = 46337;
+    std::array<bool, Último + 1> compuesto{};
+    Primos primos{};
+    std::size_t cantidad = 0;
+    for (std::size_t n = 2; n <= Último; ++n) {
+        if (compuesto[n])
+            continue;
+        primos[cantidad++] = static_cast<std::int32_t>(n);
+        for (std::size_t múltiplo = n * n; múltiplo <= Último; múltiplo += n)
+            compuesto[múltiplo] = true;
     }
-    return true;
+    return primos;
+}
+
+bool EsPrimoTabla(const Primos& tabla, std::int32_t n) {
+    return !DevPrimosEntre(tabla, n, n).empty();
 }
 
 std::vector<std::int32_t> DevPrimosEntre(const Primos& tabla, std::int32_t desde,

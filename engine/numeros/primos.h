@@ -11,12 +11,16 @@
 
 namespace quiralto {
 
-// Whether n is prime. Fault: run-time error 11 where the table ends before this is settled.
+// The table as it should be: the first CantidadPrimos primes, by a sieve.
+Primos DevPrimerosPrimos();
+
+// Whether n is prime: DevPrimosEntre for the one number. Fault: run-time error 11 where the table
+// ends before this is settled.
 bool EsPrimoTabla(const Primos& tabla, std::int32_t n);
 
 // The primes from `desde` to `hasta`, both included, in increasing order: a sieve of the whole
-// range at once, in memory of half its length. The same answers and faults as EsPrimoTabla for each
-// number of it.
+// range at once, in memory of half its length. Fault: run-time error 11 where the table ends
+// before this is settled for every number of it.
 std::vector<std::int32_t> DevPrimosEntre(const Primos& tabla, std::int32_t desde,
                                          std::int32_t hasta);
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "engine/numeros/campo_primo.h"
+#include "engine/numeros/primos_grandes.h"
 #include "engine/polinomios/denso.h"
 
 #include <cstddef>

@@ -85,7 +85,7 @@ TEST_F(FicheroPrimos, SiEsCortoElRestoQuedaACero) {
     }
 }
 
-TEST_F(FicheroPrimos, NoSeFíaDeLoQueNoCrece) {
+TEST_F(FicheroPrimos, LoQueNoEsSuPrimoYLoDeDetrásValeCero) {
     const std::string bytes = Bytes();
     const struct {
         std::string bytes;
@@ -98,9 +98,21 @@ TEST_F(FicheroPrimos, NoSeFíaDeLoQueNoCrece) {
         {bytes.substr(0, 40) + std::string("\1\0\0\0", 4) + bytes.substr(44), 10},
         {bytes.substr(0, 40) + bytes.substr(36), 10},
         {bytes.substr(0, 40) + std::string("\0\0\0\x80", 4) + bytes.substr(44), 10},
+        // It still grows: 9 for 7, and a prime left out.
+        {bytes.substr(0, 12) + std::string("\x09\0\0\0", 4) + bytes.substr(16), 3},
+        {bytes.substr(0, 40) + bytes.substr(44) + bytes.substr(19164), 10},
     };
     for (const auto& caso : casos)
         EXPECT_EQ(Carga(Escribe("malo", caso.bytes)), DevTablaDePrueba(caso.leídos));
+}
+
+TEST_F(FicheroPrimos, UnByteCambiadoCortaLaTablaAllí) {
+    const std::string bytes = Bytes();
+    for (std::size_t i = 0; i < bytes.size(); i += 97) {
+        std::string cambiado = bytes;
+        cambiado[i] = static_cast<char>(cambiado[i] ^ (1 << i % 8));
+        EXPECT_EQ(Carga(Escribe("cambiado", cambiado)), DevTablaDePrueba(i / 4)) << i;
+    }
 }
 
 TEST_F(FicheroPrimos, SeBuscaAlLadoDelProgramaYLuegoEntreLosDatos) {

@@ -149,5 +149,50 @@ TEST(FormaEntera, VuelveASuDouble) {
     }
 }
 
+TEST(Mcm, EsExactoPorGrandeQueSea) {
+    const auto mcm = [](std::initializer_list<double> números) {
+        Decimal resultado{1, 0};
+        for (const double número : números)
+            resultado = DevMCMReales(resultado, Decimal::DesdeDouble(número));
+        return resultado.ADouble();
+    };
+    EXPECT_EQ(mcm({12, 18}), 36);
+    EXPECT_EQ(mcm({-4, 6}), -12);
+    EXPECT_EQ(mcm({0, 5}), 0);
+    EXPECT_EQ(DevMCMReales(Decimal::DesdeDouble(.25), Decimal::DesdeDouble(.1)).ADouble(), .5);
+    // 140601792817642202142294, by whole numbers of any size elsewhere.
+    EXPECT_EQ(TextoNúmero(mcm({1590175129, 7405926, 131328571})), "1.40601792817642E+23");
+    EXPECT_THROW(mcm({1e200, 3e200, 7e299, 1.1e307}), ErrorEjecución);
+    EXPECT_THROW(DevMCMReales({0, 0}, {0, 3}), ErrorEjecución);
+}
+
+// Its factors tell the multiple of whole numbers below 2^31, in 128 bits.
+TEST(Mcm, LoDividenTodosYNingunoMenor) {
+    __extension__ using Doble = unsigned __int128;
+    constexpr std::uint64_t Semilla = 20301;
+    std::mt19937_64 azar(Semilla);
+    for (int i = 0; i < 2000; ++i) {
+        Decimal resultado{1, 0};
+        Doble esperado = 1;
+        for (int k = 0; k < 4; ++k) {
+            const auto n = static_cast<std::int64_t>(azar() % 2147483647 + 1) >> azar() % 31;
+            const std::int64_t número = std::max<std::int64_t>(n, 1);
+            resultado = DevMCMReales(resultado, {número, 0});
+            const auto resto = static_cast<std::int64_t>(esperado % static_cast<Doble>(número));
+            const std::int64_t común = resto == 0 ? número : DevMcdBinario(resto, número);
+            esperado *= static_cast<Doble>(número / común);
+        }
+        const auto alta = static_cast<std::uint64_t>(esperado >> 64);
+        Entero entero = Entero(static_cast<std::int64_t>(alta >> 1)).Desplazado(1);
+        entero += static_cast<std::int64_t>(alta & 1);
+        entero = entero.Desplazado(63);
+        entero += static_cast<std::int64_t>(static_cast<std::uint64_t>(esperado) >> 1);
+        entero = entero.Desplazado(1);
+        entero += static_cast<std::int64_t>(static_cast<std::uint64_t>(esperado) & 1);
+        EXPECT_EQ(resultado.exponente, 0);
+        EXPECT_TRUE(resultado.mantisa == entero) << "seed " << Semilla << ", " << i;
+    }
+}
+
 } // namespace
 } // namespace quiralto
