@@ -1,7 +1,7 @@
 #include "commands/letras.h"
 
 #include "engine/base/caracteres.h"
-#include "engine/lenguaje/sintaxis.h"
+#include "engine/lenguaje/operaciones.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,19 +9,9 @@
 namespace quiralto {
 namespace {
 
-constexpr std::string_view PrefijoSln = "SLN(";
-
 char EnMayúscula(char c) {
     constexpr int Distancia = 'a' - 'A';
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - Distancia) : c;
-}
-
-// Length of the function name with its parenthesis that begins the text; 0 where none does.
-std::size_t LongitudNombre(std::string_view texto) {
-    for (const std::string_view nombre : NombresFunción)
-        if (texto.starts_with(nombre) && texto.substr(nombre.size()).starts_with('('))
-            return nombre.size() + 1;
-    return 0;
 }
 
 // Whether the letter at i is the exponent letter of the number on its left: "2E8", "1.5D-3".

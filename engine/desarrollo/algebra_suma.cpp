@@ -5,7 +5,7 @@
 #include "engine/desarrollo/multinomio.h"
 #include "engine/desarrollo/producto_empaquetado.h"
 #include "engine/desarrollo/semejantes.h"
-#include "engine/evaluacion/aritmetica.h"
+#include "engine/lenguaje/aritmetica.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>

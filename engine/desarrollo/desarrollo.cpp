@@ -25,32 +25,34 @@ public:
     Valor DeX() { return SumaSímbolo(tabla_.DevVariable('X', "X")); }
     static Valor DeNúmero(double valor) { return SumaNúmero(valor); }
 
-    Valor Opera(Operación código, Valor a, Valor b) {
-        switch (código) {
-        case Operación::Suma:
-        case Operación::Resta:
-            a.Añade(tabla_, std::move(b), código == Operación::Suma ? 1 : -1);
+    Valor Opera(const DescripciónOperación& operación, Valor a, Valor b) {
+        switch (operación.familia) {
+        case Familia::Suma:
+        case Familia::Resta:
+            a.Añade(tabla_, std::move(b), operación.familia == Familia::Suma ? 1 : -1);
             return a;
-        case Operación::Producto: {
+        case Familia::Producto: {
             Valor producto = MultiplicaYFunde(tabla_, a.Cerrada(), b.Cerrada());
             producto.factores = DevFactores(a, b);
             return producto;
         }
-        case Operación::Cociente: {
+        case Familia::Cociente: {
             const std::vector<Términos> divisores = DevFactores(a, b);
             Términos cociente = DevCociente(tabla_, a.Cerrada(), b.Cerrada(), divisores);
             FundeSemejantes(tabla_, cociente);
             return cociente;
         }
-        case Operación::Potencia: {
+        case Familia::Potencia: {
             Valor potencia = ElevaYFunde(tabla_, a.Cerrada(), b.Cerrada());
             potencia.factores = DevFactores(a, a);
             return potencia;
         }
-        default:
-            return SumaSímbolo(
-                DevLlamada(tabla_, código, EscribeSuma(tabla_, RedondeaSuma(tabla_, b.Cerrada()))));
+        case Familia::Función:
+        case Familia::Símbolo:
+            break;
         }
+        return SumaSímbolo(
+            DevLlamada(tabla_, operación, EscribeSuma(tabla_, RedondeaSuma(tabla_, b.Cerrada()))));
     }
 
     std::string Escribe(Valor valor) {
@@ -79,10 +81,10 @@ typename Reglas::Valor Ejecuta(Reglas& reglas, Contexto& contexto, const Program
     };
     for (const Instrucción& instrucción : programa.instrucciones) {
         contexto.Vigila();
-        const bool binaria = instrucción.código <= Operación::Potencia;
-        Valor izquierdo = binaria ? toma(instrucción.izquierdo) : Valor{};
+        const DescripciónOperación& operación = *BuscaOperación(instrucción.código);
+        Valor izquierdo = operación.EsBinaria() ? toma(instrucción.izquierdo) : Valor{};
         registros[static_cast<std::size_t>(instrucción.resultado)] =
-            reglas.Opera(instrucción.código, std::move(izquierdo), toma(instrucción.derecho));
+            reglas.Opera(operación, std::move(izquierdo), toma(instrucción.derecho));
     }
     return std::move(*registros[programa.Resultado()]);
 }

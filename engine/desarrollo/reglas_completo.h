@@ -28,20 +28,22 @@ public:
     Valor DeX() { return {.numerador = SumaSímbolo(tabla_.DevVariable('X', "X"))}; }
     static Valor DeNúmero(double valor) { return {.numerador = SumaNúmero(valor)}; }
 
-    Valor Opera(Operación código, Valor a, Valor b) {
-        switch (código) {
-        case Operación::Suma:
-        case Operación::Resta:
-            return Añade(std::move(a), std::move(b), código == Operación::Suma ? 1 : -1);
-        case Operación::Producto:
+    Valor Opera(const DescripciónOperación& operación, Valor a, Valor b) {
+        switch (operación.familia) {
+        case Familia::Suma:
+        case Familia::Resta:
+            return Añade(std::move(a), std::move(b), operación.familia == Familia::Suma ? 1 : -1);
+        case Familia::Producto:
             return Producto(a, b);
-        case Operación::Cociente:
+        case Familia::Cociente:
             return Cociente(a, b);
-        case Operación::Potencia:
+        case Familia::Potencia:
             return Potencia(a, b);
-        default:
-            return {.numerador = SumaSímbolo(DevLlamada(tabla_, código, Escribe(std::move(b))))};
+        case Familia::Función:
+        case Familia::Símbolo:
+            break;
         }
+        return {.numerador = SumaSímbolo(DevLlamada(tabla_, operación, Escribe(std::move(b))))};
     }
 
     std::string Escribe(Valor valor) {

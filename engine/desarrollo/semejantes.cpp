@@ -1,6 +1,6 @@
 #include "engine/desarrollo/semejantes.h"
 
-#include "engine/evaluacion/aritmetica.h"
+#include "engine/lenguaje/aritmetica.h"
 #include "engine/evaluacion/evalua.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/numeros/numero.h"

@@ -64,12 +64,12 @@ Términos ElevaYFunde(TablaSímbolos& tabla, const Términos& base, const Térmi
     return potencia;
 }
 
-IdSímbolo DevLlamada(TablaSímbolos& tabla, Operación código, const std::string& argumento) {
-    const auto función = std::ranges::find(TablaOperaciones, código, &DescripciónOperación::código);
-    std::string texto(función->nombre);
+IdSímbolo DevLlamada(TablaSímbolos& tabla, const DescripciónOperación& función,
+                     const std::string& argumento) {
+    std::string texto(función.nombre);
     ((texto += '(') += argumento) += ')';
     constexpr double MáximoÍndice = 1e6;
-    if (código == Operación::Sln &&
+    if (función.familia == Familia::Símbolo &&
         argumento.find_first_not_of("0123456789") == std::string::npos && Val(argumento) >= 1 &&
         Val(argumento) <= MáximoÍndice)
         return tabla.DevVariable(Val(argumento), std::move(texto));

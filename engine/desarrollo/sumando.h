@@ -45,6 +45,7 @@ Términos MultiplicaYFunde(TablaSímbolos& tabla, const Términos& a, const Tér
 Términos ElevaYFunde(TablaSímbolos& tabla, const Términos& base, const Términos& exponente);
 
 // The symbol of a call; SLN of a whole number is a variable, in its place.
-IdSímbolo DevLlamada(TablaSímbolos& tabla, Operación código, const std::string& argumento);
+IdSímbolo DevLlamada(TablaSímbolos& tabla, const DescripciónOperación& función,
+                     const std::string& argumento);
 
 } // namespace quiralto

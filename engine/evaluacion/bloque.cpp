@@ -1,6 +1,6 @@
 #include "engine/evaluacion/bloque.h"
 
-#include "engine/evaluacion/aritmetica.h"
+#include "engine/lenguaje/operaciones.h"
 
 #include <algorithm>
 #include <cmath>
@@ -70,46 +70,35 @@ QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(double* __restrict seno, double* __res
     }
 }
 
-QUIRALTO_EN_LÍNEA void EjecutaPasoGenérico(const Filas& filas, const Paso& paso) {
-    double* const destino = filas[paso.destino];
-    const double* const argumento = filas[paso.derecho.fila];
-    switch (paso.código) {
-    case Operación::Suma:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return a + b; });
-    case Operación::Resta:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return a - b; });
-    case Operación::Producto:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return a * b; });
-    case Operación::Cociente:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return a / b; });
-    case Operación::Potencia:
-        return AplicaPotencia(filas, paso);
-    case Operación::Log:
-        return Aplica(destino, argumento, [](double a) { return std::log(a); });
-    case Operación::Sin:
-        if (paso.destinoCoseno != 0)
-            return AplicaSenoYCoseno(destino, filas[paso.destinoCoseno], argumento);
-        return Aplica(destino, argumento, [](double a) { return std::sin(a); });
-    case Operación::Cos:
-        return Aplica(destino, argumento, [](double a) { return std::cos(a); });
-    case Operación::Tan:
-        return Aplica(destino, argumento, [](double a) { return std::tan(a); });
-    case Operación::Atn:
-        return Aplica(destino, argumento, [](double a) { return std::atan(a); });
-    case Operación::Exp:
-        return Aplica(destino, argumento, [](double a) { return std::exp(a); });
-    case Operación::Sqr:
-        return Aplica(destino, argumento, [](double a) { return std::sqrt(a); });
-    case Operación::Sec:
-        return Aplica(destino, argumento, [](double a) { return DevSecante(a); });
-    case Operación::Cosec:
-        return Aplica(destino, argumento, [](double a) { return DevCosecante(a); });
-    case Operación::Arcsin:
-        return Aplica(destino, argumento, [](double a) { return DevArcoseno(a); });
-    case Operación::Sln:
-        return; // never planned
-    }
+// The loop of one row of the table. SLN is never planned.
+template <std::size_t Índice>
+QUIRALTO_EN_LÍNEA void EjecutaOperación(const Filas& filas, const Paso& paso) {
+    constexpr const DescripciónOperación& Operador = TablaOperaciones[Índice];
+    [[maybe_unused]] const double* const argumento = filas[paso.derecho.fila];
+    if constexpr (Operador.familia == Familia::Símbolo)
+        return;
+    else if constexpr (Operador.familia == Familia::Potencia)
+        AplicaPotencia(filas, paso);
+    else if constexpr (Operador.EsBinaria())
+        AplicaBinaria(filas, paso, [](double a, double b) {
+            return TablaOperaciones[Índice].valor(a, b, nullptr);
+        });
+    else if (Operador.código == Operación::Sin && paso.destinoCoseno != 0)
+        AplicaSenoYCoseno(filas[paso.destino], filas[paso.destinoCoseno], argumento);
+    else
+        Aplica(filas[paso.destino], argumento,
+               [](double a) { return TablaOperaciones[Índice].valor(0, a, nullptr); });
 }
+
+template <std::size_t... Índice>
+QUIRALTO_EN_LÍNEA void EjecutaPasoGenérico(std::index_sequence<Índice...>, const Filas& filas,
+                                           const Paso& paso) {
+    static_cast<void>(((paso.código == TablaOperaciones[Índice].código &&
+                        (EjecutaOperación<Índice>(filas, paso), true)) ||
+                       ...));
+}
+
+constexpr std::make_index_sequence<TablaOperaciones.size()> Índices;
 
 // v - v is 0 for a finite v and not a number for any other.
 QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(const double* fila) {
@@ -125,7 +114,7 @@ QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(const double* fila) {
 }
 
 void EjecutaPasoBase(const Filas& filas, const Paso& paso) {
-    EjecutaPasoGenérico(filas, paso);
+    EjecutaPasoGenérico(Índices, filas, paso);
 }
 
 bool TodosFinitosBase(const double* fila) {
@@ -135,7 +124,7 @@ bool TodosFinitosBase(const double* fila) {
 #if defined(__x86_64__)
 // Twice as many values an instruction where the processor can; the results are the same bits.
 [[gnu::target("avx2")]] void EjecutaPasoAvx2(const Filas& filas, const Paso& paso) {
-    EjecutaPasoGenérico(filas, paso);
+    EjecutaPasoGenérico(Índices, filas, paso);
 }
 
 [[gnu::target("avx2")]] bool TodosFinitosAvx2(const double* fila) {

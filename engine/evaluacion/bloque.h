@@ -1,4 +1,5 @@
 // Running a plan over rows of values.
+// Tested by evalua_test.cpp.
 #pragma once
 
 #include "engine/evaluacion/plan.h"

@@ -1,40 +1,23 @@
 #include "engine/evaluacion/evalua.h"
 
-#include "engine/evaluacion/aritmetica.h"
 #include "engine/evaluacion/bloque.h"
+#include "engine/evaluacion/opera.h"
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <limits>
-#include <random>
 
 namespace quiralto {
 namespace {
 
-double DevSln(Contexto& contexto, double a) {
-    return a == 0 ? std::uniform_real_distribution<double>(0, 1)(contexto.generador) : a;
-}
-
 // Why an instruction gave `resultado`, which is not finite.
 Fallo DevFallo(Operación código, double izquierdo, double derecho, double resultado) {
-    const Fallo desbordaOInválido = std::isnan(resultado) ? ArgumentoInválido : Desbordamiento;
-    switch (código) {
-    case Operación::Cociente:
-        return derecho == 0 ? DivisiónPorCero : desbordaOInválido;
-    case Operación::Potencia:
-        return izquierdo == 0 && derecho < 0 ? DivisiónPorCero : desbordaOInválido;
-    case Operación::Log:
-    case Operación::Sqr:
-        return ArgumentoInválido;
-    case Operación::Sec:
-        return std::cos(derecho) == 0 ? DivisiónPorCero : desbordaOInválido;
-    case Operación::Cosec:
-        return std::sin(derecho) == 0 ? DivisiónPorCero : desbordaOInválido;
-    case Operación::Arcsin:
-        return std::isnan(resultado) ? ArgumentoInválido : DivisiónPorCero;
-    default:
-        return desbordaOInválido;
-    }
+    const DescripciónOperación* const operación = BuscaOperación(código);
+    const Fallo suyo = operación != nullptr ? operación->fallo(izquierdo, derecho) : SinFallo;
+    if (suyo != SinFallo)
+        return suyo;
+    return std::isnan(resultado) ? ArgumentoInválido : Desbordamiento;
 }
 
 } // namespace
@@ -46,8 +29,7 @@ double EvalúaPrograma(Contexto& contexto, Programa& programa, double x) {
         const double izquierdo = registros[instrucción.izquierdo];
         const double derecho = registros[instrucción.derecho];
         double& resultado = registros[instrucción.resultado];
-        resultado = Opera(instrucción.código, izquierdo, derecho, resultado,
-                          [&](double a) { return DevSln(contexto, a); });
+        resultado = Opera(instrucción.código, izquierdo, derecho, resultado, &contexto.generador);
         if (!std::isfinite(resultado)) [[unlikely]] {
             contexto.ErrorCódigo = DevFallo(instrucción.código, izquierdo, derecho, resultado);
             return std::numeric_limits<double>::quiet_NaN();

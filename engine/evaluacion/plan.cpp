@@ -1,7 +1,5 @@
 #include "engine/evaluacion/plan.h"
 
-#include "engine/evaluacion/aritmetica.h"
-
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -12,20 +10,6 @@ namespace quiralto {
 namespace {
 
 constexpr std::size_t MáximoFilas = 4096; // 8 MiB of rows
-
-// Whether the operation can give a finite result for an operand that is not finite.
-bool EscondeFallos(Operación código, bool operandoDerecho) {
-    switch (código) {
-    case Operación::Potencia:
-    case Operación::Atn:
-    case Operación::Exp:
-        return true;
-    case Operación::Cociente:
-        return operandoDerecho;
-    default:
-        return false;
-    }
-}
 
 // The steps with a row of its own for each, in Operando::fila: node n writes row n + 1.
 struct Nodo {
@@ -64,16 +48,16 @@ private:
         const auto operando = [this](std::int16_t registro) -> const Operando& {
             return operandos_[static_cast<std::size_t>(registro)];
         };
-        const bool binaria = instrucción.código <= Operación::Potencia;
-        const Operando izquierdo = binaria ? operando(instrucción.izquierdo) : Operando{};
-        Operando derecho = operando(instrucción.derecho);
-        Operando& resultado = operandos_[static_cast<std::size_t>(instrucción.resultado)];
+        const DescripciónOperación* const operación = BuscaOperación(instrucción.código);
         // The random values of SLN have an order, and a code outside the table does nothing.
-        if (instrucción.código < Operación::Suma || instrucción.código > Operación::Arcsin)
+        if (operación == nullptr || operación->familia == Familia::Símbolo)
             return false;
+        const Operando izquierdo =
+            operación->EsBinaria() ? operando(instrucción.izquierdo) : Operando{};
+        const Operando derecho = operando(instrucción.derecho);
+        Operando& resultado = operandos_[static_cast<std::size_t>(instrucción.resultado)];
         if (!izquierdo.esFila && !derecho.esFila) {
-            resultado.valor = Opera(instrucción.código, izquierdo.valor, derecho.valor,
-                                    resultado.valor, [](double a) { return a; });
+            resultado.valor = operación->valor(izquierdo.valor, derecho.valor, nullptr);
             return std::isfinite(resultado.valor);
         }
         resultado = {.esFila = true,
@@ -92,8 +76,9 @@ private:
         if (const std::size_t igual = BuscaIgual(código, izquierdo, derecho);
             igual != nodos_.size())
             return igual;
-        AnotaLector(izquierdo, EscondeFallos(código, false));
-        AnotaLector(derecho, EscondeFallos(código, true));
+        const Oculta oculta = BuscaOperación(código)->oculta;
+        AnotaLector(izquierdo, oculta == Oculta::Ambos);
+        AnotaLector(derecho, oculta != Oculta::Nada);
         nodos_.push_back({.paso = {.código = código,
                                    .izquierdo = izquierdo,
                                    .derecho = derecho,

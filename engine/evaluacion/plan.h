@@ -1,6 +1,7 @@
 // How a program is run over many values of X at once: which instructions are left once those that
 // do not depend on X are done, and in which rows of values they work. plan.h makes the plan,
 // bloque.h runs it; evalua.h is what others use.
+// Tested by evalua_test.cpp.
 #pragma once
 
 #include "engine/lenguaje/programa.h"

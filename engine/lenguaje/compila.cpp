@@ -1,11 +1,11 @@
 #include "engine/lenguaje/compila.h"
 
+#include "engine/base/caracteres.h"
 #include "engine/base/fallos.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 namespace quiralto {
 namespace {
@@ -20,16 +20,6 @@ struct Pieza {
     double número{};         // of Número
 };
 
-// The order in which the functions of a group are compiled.
-constexpr std::array OrdenFunciones = {Operación::Arcsin, Operación::Cosec, Operación::Log,
-                                       Operación::Sin,    Operación::Cos,   Operación::Tan,
-                                       Operación::Atn,    Operación::Exp,   Operación::Sqr,
-                                       Operación::Sec,    Operación::Sln};
-
-[[noreturn]] void RechazaTexto() {
-    throw ErrorEjecución(ArgumentoInválido);
-}
-
 class Compilador {
 public:
     explicit Compilador(std::string_view texto) : texto_(texto.empty() ? "0" : texto) {
@@ -40,14 +30,14 @@ public:
         while (posición_ < texto_.size())
             LeePieza();
         if (!grupos_.empty())
-            RechazaTexto();
+            throw ErrorEjecución(ArgumentoInválido);
         CompilaGrupo(0);
         return std::move(programa_);
     }
 
 private:
     void LeePieza();
-    void LeeOperador(char c);
+    void LeeOperador(Operación código);
     bool LeeFunción();
     void CierraGrupo();
     void CompilaGrupo(std::size_t principio);
@@ -74,21 +64,8 @@ bool EsOperando(const Pieza& pieza) {
     return pieza.clase == Pieza::Clase::Registro || pieza.clase == Pieza::Clase::Número;
 }
 
-std::optional<Operación> OperaciónDe(char c) {
-    switch (c) {
-    case '+':
-        return Operación::Suma;
-    case '-':
-        return Operación::Resta;
-    case '*':
-        return Operación::Producto;
-    case '/':
-        return Operación::Cociente;
-    case '^':
-        return Operación::Potencia;
-    default:
-        return std::nullopt;
-    }
+bool EsFuerte(Operación código) {
+    return EsOperadorFuerte(BuscaOperación(código)->nombre.front());
 }
 
 void Compilador::LeePieza() {
@@ -99,8 +76,8 @@ void Compilador::LeePieza() {
     } else if (c == ')') {
         CierraGrupo();
         ++posición_;
-    } else if (OperaciónDe(c)) {
-        LeeOperador(c);
+    } else if (const DescripciónOperación* const operador = BuscaOperador(c)) {
+        LeeOperador(operador->código);
         ++posición_;
     } else if (c == 'X') {
         Añade({.clase = Pieza::Clase::Registro, .registro = 0});
@@ -112,65 +89,61 @@ void Compilador::LeePieza() {
         Añade({.clase = Pieza::Clase::Número, .número = número.valor});
         posición_ += número.longitud;
     } else if (!LeeFunción()) {
-        RechazaTexto();
+        throw ErrorEjecución(ArgumentoInválido);
     }
 }
 
-void Compilador::LeeOperador(char c) {
-    Pieza pieza{.clase = Pieza::Clase::Operador, .código = *OperaciónDe(c)};
+void Compilador::LeeOperador(Operación código) {
+    Pieza pieza{.clase = Pieza::Clase::Operador, .código = código};
+    const bool esMenos = código == Operación::Resta;
     if (EmpiezaGrupo()) {
-        if (c != '-')
-            RechazaTexto();
+        if (!esMenos)
+            throw ErrorEjecución(ArgumentoInválido);
         Añade({.clase = Pieza::Clase::Número, .número = 0});
     } else if (!EsOperando(piezas_.back())) {
         // Only "*-", "/-" and "^-" stand together; every other run has been folded.
         const Pieza& anterior = piezas_.back();
-        if (c != '-' || anterior.clase != Pieza::Clase::Operador ||
-            anterior.código < Operación::Producto)
-            RechazaTexto();
+        if (!esMenos || anterior.clase != Pieza::Clase::Operador ||
+            !EsFuerte(anterior.código))
+            throw ErrorEjecución(ArgumentoInválido);
         pieza = {.clase = Pieza::Clase::SignoTras, .código = anterior.código};
     }
     Añade(pieza);
 }
 
 bool Compilador::LeeFunción() {
-    const std::string_view resto = texto_.substr(posición_);
-    for (const DescripciónOperación& función : TablaOperaciones) {
-        if (función.binaria || !resto.starts_with(función.nombre) ||
-            !resto.substr(función.nombre.size()).starts_with('('))
-            continue;
-        Añade({.clase = Pieza::Clase::Función, .código = función.código});
-        posición_ += función.nombre.size();
-        return true;
-    }
-    return false;
+    const DescripciónOperación* const función = BuscaFunción(texto_.substr(posición_));
+    if (función == nullptr)
+        return false;
+    Añade({.clase = Pieza::Clase::Función, .código = función->código});
+    posición_ += función->nombre.size();
+    return true;
 }
 
 void Compilador::CierraGrupo() {
     if (grupos_.empty())
-        RechazaTexto();
+        throw ErrorEjecución(ArgumentoInválido);
     const std::size_t principio = grupos_.back();
     CompilaGrupo(principio);
     const Pieza resultado = piezas_.back();
     grupos_.pop_back();
     piezas_.pop_back();
     if (!EmpiezaGrupo() && EsOperando(piezas_.back()))
-        RechazaTexto();
+        throw ErrorEjecución(ArgumentoInválido);
     piezas_.push_back(resultado);
 }
 
 // Leaves one piece of the group that begins at `principio`: the register of its value.
 void Compilador::CompilaGrupo(std::size_t principio) {
     if (piezas_.size() == principio)
-        RechazaTexto();
+        throw ErrorEjecución(ArgumentoInválido);
     CompilaFunciones(principio);
-    for (const Operación tras : {Operación::Potencia, Operación::Cociente, Operación::Producto})
+    for (const Operación tras : OrdenOperadores)
         CompilaSignos(principio, tras);
-    for (const Operación código : {Operación::Potencia, Operación::Cociente, Operación::Producto,
-                                   Operación::Resta, Operación::Suma})
+    for (const Operación código : OrdenOperadores)
         CompilaOperadores(principio, código);
     if (piezas_.size() != principio + 1 || !EsOperando(piezas_.back()))
-        RechazaTexto();
+        throw ErrorEjecución(ArgumentoInválido);
     // Only a formula or group that was a lone number or X is not yet the result of an instruction.
     Pieza& única = piezas_.back();
     if (única.clase == Pieza::Clase::Número || única.registro == 0)
@@ -183,14 +156,14 @@ void Compilador::CompilaFunciones(std::size_t principio) {
     for (std::size_t i = principio; i < piezas_.size(); ++i) {
         if (piezas_[i].clase != Pieza::Clase::Función)
             continue;
-        const auto orden = std::ranges::find(OrdenFunciones, piezas_[i].código);
-        lugares[static_cast<std::size_t>(orden - OrdenFunciones.begin())].push_back(i);
+        const int orden = BuscaOperación(piezas_[i].código)->orden;
+        lugares[static_cast<std::size_t>(orden - 1)].push_back(i);
     }
     bool hubo = false;
     for (const auto& delNombre : lugares) {
         for (const std::size_t i : delNombre) {
             if (i + 1 == piezas_.size() || piezas_[i + 1].clase != Pieza::Clase::Registro)
-                RechazaTexto();
+                throw ErrorEjecución(ArgumentoInválido);
             piezas_[i + 1] = Emite(0, piezas_[i].código, piezas_[i + 1].registro);
             hubo = true;
         }
@@ -213,7 +186,7 @@ void Compilador::CompilaSignos(std::size_t principio, Operación tras) {
         }
         ++i;
         if (i == piezas_.size() || !EsOperando(piezas_[i]))
-            RechazaTexto();
+            throw ErrorEjecución(ArgumentoInválido);
         piezas_[escrita++] = EmiteBinaria({.clase = Pieza::Clase::Número, .número = 0},
                                           Operación::Resta, piezas_[i]);
     }
@@ -231,7 +204,7 @@ void Compilador::CompilaOperadores(std::size_t principio, Operación código) {
         ++i;
         if (escrita == principio || i == piezas_.size() || !EsOperando(piezas_[escrita - 1]) ||
             !EsOperando(piezas_[i]))
-            RechazaTexto();
+            throw ErrorEjecución(ArgumentoInválido);
         piezas_[escrita - 1] = EmiteBinaria(piezas_[escrita - 1], código, piezas_[i]);
     }
     piezas_.resize(escrita);
@@ -240,7 +213,7 @@ void Compilador::CompilaOperadores(std::size_t principio, Operación código) {
 void Compilador::Añade(const Pieza& pieza) {
     if (EsOperando(pieza)) {
         if (!EmpiezaGrupo() && EsOperando(piezas_.back()))
-            RechazaTexto();
+            throw ErrorEjecución(ArgumentoInválido);
     } else if (++pendientes_ > MáximoInstrucciones) {
         // Refused while it is read, so that no text, however long, fills the memory with pieces.
         throw ErrorEjecución(Desbordamiento);

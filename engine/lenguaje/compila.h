@@ -12,8 +12,8 @@ namespace quiralto {
 //
 // The instructions stand in the order of the language's rewriting rules, which decides which fault
 // comes first and how sums are associated. Groups are compiled innermost and leftmost first; inside
-// a group, after a leading "-" has become "0-": the functions in the order ARCSIN COSEC LOG SIN COS
-// TAN ATN EXP SQR SEC SLN, the signs behind "^", then behind "/", then behind "*" (each as 0 minus
+// a group, after a leading "-" has become "0-": the functions in the order of their rows in
+// operaciones.h, the signs behind "^", then behind "/", then behind "*" (each as 0 minus
 // the operand that follows), and then all "^", all "/", all "*", all "-" and all "+", each from
 // left to right. So "2^3^2" is 64, "2*-3^2" is 18, "-3^2" is -9. A lone number or X becomes 0 plus
 // itself.

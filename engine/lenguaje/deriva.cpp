@@ -2,17 +2,15 @@
 
 #include "engine/base/caracteres.h"
 #include "engine/lenguaje/lugares.h"
+#include "engine/lenguaje/operaciones.h"
 #include "engine/lenguaje/signos_de_base.h"
 #include "engine/lenguaje/sintaxis.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace quiralto {
 namespace {
-
-[[noreturn]] void RechazaTexto() {
-    throw ErrorEjecución(ArgumentoInválido);
-}
 
 // A range of the text, inside one group.
 struct Trozo {
@@ -25,8 +23,7 @@ struct Trozo {
 // from its beginning to its end: what is still to be written waits on a stack, the next on top.
 class Derivador {
 public:
-    Derivador(Contexto& contexto, std::string_view f)
-        : contexto_(contexto), f_(f), operadores_(f) {}
+    Derivador(Contexto& contexto, std::string_view f) : contexto_(contexto), f_(f), lugares_(f) {}
 
     std::string Deriva(const ObservadorDeRondas& observa) {
         Marca({0, f_.size(), 0});
@@ -58,7 +55,7 @@ private:
     std::string_view Texto(const Trozo& t) const {
         return f_.substr(t.principio, t.fin - t.principio);
     }
-    bool ContieneX(const Trozo& t) const { return operadores_.ContieneX(t.principio, t.fin); }
+    bool ContieneX(const Trozo& t) const { return lugares_.ContieneX(t.principio, t.fin); }
 
     void Escribe(std::string_view texto) {
         if (escrito_.size() + texto.size() > MáximoTexto)
@@ -102,11 +99,11 @@ private:
     void DerivaCociente(const Trozo& u, const Trozo& v);
     void DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t);
     void DerivaFunción(const Trozo& t);
-    void DerivaArcoseno(const Trozo& u);
+    void PonPlantilla(std::string_view plantilla, const Trozo& u);
 
     Contexto& contexto_;
     std::string_view f_;
-    Operadores operadores_;
+    Lugares lugares_;
     std::string escrito_;
     std::vector<Pendiente> pendientes_;
     std::vector<Pendiente> resultado_;
@@ -116,32 +113,32 @@ private:
 void Derivador::DerivaTrozo(Trozo t) {
     for (;;) {
         if (t.principio >= t.fin)
-            RechazaTexto();
+            throw ErrorEjecución(ArgumentoInválido);
         const auto izquierda = [&](std::size_t p) { return Trozo{t.principio, p, t.grupo}; };
         const auto derecha = [&](std::size_t p) { return Trozo{p + 1, t.fin, t.grupo}; };
-        const auto primero = [&](Clase clase) {
-            return operadores_.Primero(t.grupo, clase, t.principio, t.fin);
+        const auto primero = [&](Operación operador) {
+            return lugares_.Primero(t.grupo, operador, t.principio, t.fin);
         };
-        const auto último = [&](Clase clase) {
-            return operadores_.Último(t.grupo, clase, t.principio + 1, t.fin);
+        const auto último = [&](Operación operador) {
+            return lugares_.Último(t.grupo, operador, t.principio + 1, t.fin);
         };
-        if (const std::size_t p = primero(Suma); p != t.fin)
+        if (const std::size_t p = primero(Operación::Suma); p != t.fin)
             return DerivaSumaOResta(izquierda(p), derecha(p), false);
-        if (const std::size_t p = último(Resta); p != t.fin)
+        if (const std::size_t p = último(Operación::Resta); p != t.fin)
             return DerivaSumaOResta(izquierda(p), derecha(p), true);
-        if (const std::size_t p = primero(Producto); p != t.fin)
+        if (const std::size_t p = primero(Operación::Producto); p != t.fin)
             return DerivaProducto(izquierda(p), derecha(p));
-        if (const std::size_t p = último(Cociente); p != t.fin)
+        if (const std::size_t p = último(Operación::Cociente); p != t.fin)
             return DerivaCociente(izquierda(p), derecha(p));
         if (f_[t.principio] == '-') {
             Pon("-");
             return Marca({t.principio + 1, t.fin, t.grupo});
         }
-        if (const std::size_t p = primero(Potencia); p != t.fin)
+        if (const std::size_t p = primero(Operación::Potencia); p != t.fin)
             return DerivaPotencia(izquierda(p), derecha(p), t);
         if (f_[t.principio] != '(' || f_[t.fin - 1] != ')')
             break;
-        t = {t.principio + 1, t.fin - 1, operadores_.GrupoEn(t.principio + 1)};
+        t = {t.principio + 1, t.fin - 1, lugares_.GrupoEn(t.principio + 1)};
     }
     const char c = f_[t.principio];
     if (Texto(t) == "X")
@@ -242,85 +239,32 @@ void Derivador::DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t) {
 
 void Derivador::DerivaFunción(const Trozo& t) {
     const std::string_view texto = Texto(t);
-    const std::size_t paréntesis = texto.find('(');
-    if (paréntesis == std::string_view::npos || texto.back() != ')')
-        RechazaTexto();
-    const std::string_view nombre = texto.substr(0, paréntesis);
-    const std::size_t principio = t.principio + paréntesis + 1;
-    const Trozo u{principio, t.fin - 1, operadores_.GrupoEn(principio)};
+    const DescripciónOperación* const función = BuscaFunción(texto);
+    if (función == nullptr || función->familia != Familia::Función || texto.back() != ')')
+        throw ErrorEjecución(ArgumentoInválido);
+    const std::size_t principio = t.principio + función->nombre.size() + 1;
+    const Trozo u{principio, t.fin - 1, lugares_.GrupoEn(principio)};
     if (!ContieneX(u))
         return Pon("0");
-    const auto conArgumento = [&](std::string_view antes, std::string_view después) {
-        Pon(antes);
-        Pon(u);
-        Pon(después);
-    };
-    if (nombre == "COS")
-        Pon("-");
-    if (nombre == "SEC" || nombre == "COSEC") {
-        // D(1/COS(u))D and D(1/SIN(u))D, a step further
-        const bool secante = nombre == "SEC";
-        Pon(secante ? "-1*\x01-" : "-1*\x01");
-        Marca(u);
-        conArgumento(secante ? "*SIN(" : "*COS(", ")\x02");
-        return conArgumento(secante ? "/COS(" : "/SIN(", ")^2");
-    }
-    if (nombre == "ARCSIN")
-        return DerivaArcoseno(u);
-    Marca(u);
-    if (nombre == "SIN")
-        conArgumento("*COS(", ")");
-    else if (nombre == "COS")
-        conArgumento("*SIN(", ")");
-    else if (nombre == "TAN")
-        conArgumento("/COS(", ")^2");
-    else if (nombre == "ATN")
-        conArgumento("/(1+(", ")^2)");
-    else if (nombre == "LOG")
-        conArgumento("/(", ")");
-    else if (nombre == "EXP")
-        conArgumento("*EXP(", ")");
-    else if (nombre == "SQR")
-        conArgumento("/(2*SQR(", "))");
-    else
-        RechazaTexto();
+    PonPlantilla(función->derivada, u);
 }
 
-// D(ATN(u/SQR(-u*u+1)))D with u in parentheses, by the rules for ATN, quotient, SQR and product.
-void Derivador::DerivaArcoseno(const Trozo& u) {
-    const auto raíz = [&] {
-        Pon("SQR(-(");
-        Pon(u);
-        Pon(")*(");
-        Pon(u);
-        Pon(")+1)");
-    };
-    const auto argumento = [&] {
-        Pon("(");
-        Pon(u);
-        Pon(")");
-    };
-    Pon("(");
-    raíz();
-    PorDerivada(u);
-    Pon("-");
-    argumento();
-    Pon("*\x01(-");
-    argumento();
-    PorDerivada(u);
-    Pon("+");
-    argumento();
-    Pon("*\x01-");
-    Marca(u);
-    Pon("\x02)/(2*");
-    raíz();
-    Pon(")\x02)/");
-    raíz();
-    Pon("^2/(1+(");
-    argumento();
-    Pon("/");
-    raíz();
-    Pon(")^2)");
+// The text of a row's derivative, with the argument in it.
+void Derivador::PonPlantilla(std::string_view plantilla, const Trozo& u) {
+    while (!plantilla.empty()) {
+        const std::size_t fin = std::min(plantilla.find_first_of("ud[]"), plantilla.size());
+        if (fin > 0)
+            Pon(plantilla.substr(0, fin));
+        if (fin == plantilla.size())
+            return;
+        if (plantilla[fin] == 'u')
+            Pon(u);
+        else if (plantilla[fin] == 'd')
+            Marca(u);
+        else
+            Pon(plantilla[fin] == '[' ? "\x01" : "\x02");
+        plantilla.remove_prefix(fin + 1);
+    }
 }
 
 } // namespace

@@ -18,9 +18,13 @@ bool SeparaEn(std::string_view texto, std::size_t i) {
     return texto[i - 1] != 'E' && (texto[i] == '+' || !EsOperadorFuerte(texto[i - 1]));
 }
 
+std::size_t Índice(const DescripciónOperación& operador) {
+    return static_cast<std::size_t>(operador.orden - 1);
+}
+
 } // namespace
 
-Operadores::Operadores(std::string_view texto) {
+Lugares::Lugares(std::string_view texto) {
     std::vector<std::size_t> abiertos(1, 0);
     grupos_.push_back({.principio = 0, .lugares = {}});
     std::size_t lugares = 0;
@@ -35,9 +39,10 @@ Operadores::Operadores(std::string_view texto) {
             if (abiertos.size() == 1)
                 throw ErrorEjecución(ArgumentoInválido);
             abiertos.pop_back();
-        } else if (const auto clase = std::string_view("+-*/^").find(c);
-                   clase != std::string_view::npos && SeparaEn(texto, i)) {
-            grupos_[abiertos.back()].lugares[clase].push_back(static_cast<std::uint32_t>(i));
+        } else if (const DescripciónOperación* const operador = BuscaOperador(c);
+                   operador != nullptr && SeparaEn(texto, i)) {
+            grupos_[abiertos.back()].lugares[Índice(*operador)].push_back(
+                static_cast<std::uint32_t>(i));
         } else {
             continue;
         }
@@ -48,28 +53,32 @@ Operadores::Operadores(std::string_view texto) {
         throw ErrorEjecución(ArgumentoInválido);
 }
 
-bool Operadores::ContieneX(std::size_t principio, std::size_t fin) const {
+bool Lugares::ContieneX(std::size_t principio, std::size_t fin) const {
     const auto primera = std::ranges::lower_bound(equis_, principio);
     return primera != equis_.end() && *primera < fin;
 }
 
-std::size_t Operadores::GrupoEn(std::size_t principio) const {
+std::size_t Lugares::GrupoEn(std::size_t principio) const {
     const auto grupo = std::ranges::lower_bound(grupos_, principio, {}, &Grupo::principio);
     if (grupo == grupos_.end() || grupo->principio != principio)
         throw ErrorEjecución(ArgumentoInválido);
     return static_cast<std::size_t>(grupo - grupos_.begin());
 }
 
-std::size_t Operadores::Primero(std::size_t grupo, Clase clase, std::size_t principio,
-                                std::size_t fin) const {
-    const auto& lugares = grupos_[grupo].lugares[clase];
+const Lugares::Lista& Lugares::DevLista(std::size_t grupo, Operación operador) const {
+    return grupos_[grupo].lugares[Índice(*BuscaOperación(operador))];
+}
+
+std::size_t Lugares::Primero(std::size_t grupo, Operación operador, std::size_t principio,
+                             std::size_t fin) const {
+    const Lista& lugares = DevLista(grupo, operador);
     const auto lugar = std::ranges::lower_bound(lugares, principio);
     return lugar != lugares.end() && *lugar < fin ? *lugar : fin;
 }
 
-std::size_t Operadores::Último(std::size_t grupo, Clase clase, std::size_t principio,
-                               std::size_t fin) const {
-    const auto& lugares = grupos_[grupo].lugares[clase];
+std::size_t Lugares::Último(std::size_t grupo, Operación operador, std::size_t principio,
+                            std::size_t fin) const {
+    const Lista& lugares = DevLista(grupo, operador);
     const auto lugar = std::ranges::lower_bound(lugares, fin);
     return lugar != lugares.begin() && *std::prev(lugar) >= principio ? *std::prev(lugar) : fin;
 }

@@ -2,6 +2,8 @@
 // splitting the text at its operators never searches it again.
 #pragma once
 
+#include "engine/lenguaje/operaciones.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -10,13 +12,11 @@
 
 namespace quiralto {
 
-enum Clase : std::size_t { Suma, Resta, Producto, Cociente, Potencia };
-
-class Operadores {
+class Lugares {
 public:
     // Faults: run-time error 5 for parentheses that do not match; 14 for more than two million
     // operators and groups.
-    explicit Operadores(std::string_view texto);
+    explicit Lugares(std::string_view texto);
 
     // Whether there is an X in a range of the text (the one of "EXP" counts).
     bool ContieneX(std::size_t principio, std::size_t fin) const;
@@ -25,20 +25,23 @@ public:
     // Fault: run-time error 5 where none does.
     std::size_t GrupoEn(std::size_t principio) const;
 
-    // The first or last operator of a kind in a range of a group, outside its inner groups, or the
-    // range's end. A sign of an exponent or behind "*", "/" or "^" is none.
-    std::size_t Primero(std::size_t grupo, Clase clase, std::size_t principio,
+    // The first or last place of an operator in a range of a group, outside its inner groups, or
+    // the range's end. A sign of an exponent or behind "*", "/" or "^" is none.
+    std::size_t Primero(std::size_t grupo, Operación operador, std::size_t principio,
                         std::size_t fin) const;
-    std::size_t Último(std::size_t grupo, Clase clase, std::size_t principio,
+    std::size_t Último(std::size_t grupo, Operación operador, std::size_t principio,
                        std::size_t fin) const;
 
 private:
+    using Lista = std::vector<std::uint32_t>;
     struct Grupo {
         std::size_t principio;                             // of its contents
-        std::array<std::vector<std::uint32_t>, 5> lugares; // by kind, ascending
+        std::array<Lista, OrdenOperadores.size()> lugares; // by operator, ascending
     };
 
-    std::vector<std::uint32_t> equis_;
+    const Lista& DevLista(std::size_t grupo, Operación operador) const;
+
+    Lista equis_;
     std::vector<Grupo> grupos_; // by ascending principio
 };
 

@@ -1,7 +1,16 @@
-// The one table of operation codes: the compiler, the evaluator, the listing and the tests all
-// take them from here.
+// The one table of the language's operations: the check of names, the compiler, the evaluator and
+// its faults, the plan of a block run, the derivative, the listing and the algebra take what they
+// know of an operation from its row.
+//
+// A new function is an enumerator and a row here, nothing else; a row that lacks something does not
+// compile.
 #pragma once
 
+#include "engine/base/caracteres.h"
+#include "engine/base/fallos.h"
+#include "engine/lenguaje/aritmetica.h"
+
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -27,30 +36,188 @@ enum class Operación : std::int16_t {
     Sln = 128,
 };
 
+// What an operation is to the algebra, which switches over it.
+enum class Familia : std::uint8_t {
+    Suma,
+    Resta,
+    Producto,
+    Cociente,
+    Potencia,
+    Función, // a function of the language: known by its values alone
+    Símbolo, // SLN: stands for a variable of its own, and is typed under no name
+};
+
+// The operands whose not being finite the value can hide by being finite.
+enum class Oculta : std::uint8_t { Nada, Derecho, Ambos };
+
 struct DescripciónOperación {
     Operación código;
     std::string_view nombre; // the operator, or the function's name
-    bool binaria;            // R(result) := R(left) op R(right), or R(result) := name R(right)
+    Familia familia;
+    int aridad; // 2: R(result) := R(left) op R(right); 1: R(result) := name R(right)
+    int orden;  // in which the compiler takes it, operators and functions each from 1 on
+    // Only SLN draws from the source of random numbers; none is needed where it cannot stand.
+    double (*valor)(double izquierdo, double derecho, Azar* azar);
+    // The fault of two finite operands outside the domain, or SinFallo; then a value that is not
+    // finite has overflowed.
+    Fallo (*fallo)(double izquierdo, double derecho);
+    Oculta oculta;
+    // Of a function: the derivative's text, in which "u" stands for the argument, "d" for its
+    // derivative, and "[" and "]" enclose what may turn out to begin with a negative power.
+    std::string_view derivada;
     std::string_view significado;
+
+    constexpr bool EsBinaria() const { return aridad == 2; }
 };
 
+namespace filas {
+
+constexpr Fallo NoFalla(double, double) {
+    return SinFallo;
+}
+
+constexpr Fallo EntreCero(bool esCero) {
+    return esCero ? DivisiónPorCero : SinFallo;
+}
+
+constexpr Fallo FueraDeDominio(bool estáFuera) {
+    return estáFuera ? ArgumentoInválido : SinFallo;
+}
+
+inline Fallo FalloPotencia(double a, double b) {
+    return a == 0 && b < 0 ? DivisiónPorCero : FueraDeDominio(a < 0 && b != std::trunc(b));
+}
+
+inline Fallo FalloArcoseno(double, double b) {
+    return b == 1 || b == -1 ? DivisiónPorCero : FueraDeDominio(!(std::fabs(b) <= 1));
+}
+
+} // namespace filas
+
 inline constexpr std::array<DescripciónOperación, 16> TablaOperaciones = {{
-    {Operación::Suma, "+", true, "left + right"},
-    {Operación::Resta, "-", true, "left - right"},
-    {Operación::Producto, "*", true, "left * right"},
-    {Operación::Cociente, "/", true, "left / right"},
-    {Operación::Potencia, "^", true, "left raised to right"},
-    {Operación::Log, "LOG", false, "natural logarithm"},
-    {Operación::Sin, "SIN", false, "sine, radians"},
-    {Operación::Cos, "COS", false, "cosine, radians"},
-    {Operación::Tan, "TAN", false, "tangent, radians"},
-    {Operación::Atn, "ATN", false, "arc tangent"},
-    {Operación::Exp, "EXP", false, "e raised to the argument"},
-    {Operación::Sqr, "SQR", false, "square root"},
-    {Operación::Sec, "SEC", false, "1 / COS(argument)"},
-    {Operación::Cosec, "COSEC", false, "1 / SIN(argument)"},
-    {Operación::Arcsin, "ARCSIN", false, "ATN(a / SQR(1 - a*a))"},
-    {Operación::Sln, "SLN", false, "the argument; a random number in [0, 1) where it is 0"},
+    {Operación::Suma, "+", Familia::Suma, 2, 5, [](double a, double b, Azar*) { return a + b; },
+     filas::NoFalla, Oculta::Nada, "", "left + right"},
+    {Operación::Resta, "-", Familia::Resta, 2, 4, [](double a, double b, Azar*) { return a - b; },
+     filas::NoFalla, Oculta::Nada, "", "left - right"},
+    {Operación::Producto, "*", Familia::Producto, 2, 3,
+     [](double a, double b, Azar*) { return a * b; }, filas::NoFalla, Oculta::Nada, "",
+     "left * right"},
+    {Operación::Cociente, "/", Familia::Cociente, 2, 2,
+     [](double a, double b, Azar*) { return a / b; },
+     [](double, double b) { return filas::EntreCero(b == 0); }, Oculta::Derecho, "",
+     "left / right"},
+    {Operación::Potencia, "^", Familia::Potencia, 2, 1,
+     [](double a, double b, Azar*) { return DevPotencia(a, b); }, filas::FalloPotencia,
+     Oculta::Ambos, "", "left raised to right"},
+    {Operación::Log, "LOG", Familia::Función, 1, 3,
+     [](double, double b, Azar*) { return std::log(b); },
+     [](double, double b) { return filas::FueraDeDominio(b <= 0); }, Oculta::Nada, "d/(u)",
+     "natural logarithm"},
+    {Operación::Sin, "SIN", Familia::Función, 1, 4,
+     [](double, double b, Azar*) { return std::sin(b); }, filas::NoFalla, Oculta::Nada, "d*COS(u)",
+     "sine, radians"},
+    {Operación::Cos, "COS", Familia::Función, 1, 5,
+     [](double, double b, Azar*) { return std::cos(b); }, filas::NoFalla, Oculta::Nada, "-d*SIN(u)",
+     "cosine, radians"},
+    {Operación::Tan, "TAN", Familia::Función, 1, 6,
+     [](double, double b, Azar*) { return std::tan(b); }, filas::NoFalla, Oculta::Nada,
+     "d/COS(u)^2", "tangent, radians"},
+    {Operación::Atn, "ATN", Familia::Función, 1, 7,
+     [](double, double b, Azar*) { return std::atan(b); }, filas::NoFalla, Oculta::Derecho,
+     "d/(1+(u)^2)", "arc tangent"},
+    {Operación::Exp, "EXP", Familia::Función, 1, 8,
+     [](double, double b, Azar*) { return std::exp(b); }, filas::NoFalla, Oculta::Derecho,
+     "d*EXP(u)", "e raised to the argument"},
+    {Operación::Sqr, "SQR", Familia::Función, 1, 9,
+     [](double, double b, Azar*) { return std::sqrt(b); },
+     [](double, double b) { return filas::FueraDeDominio(b < 0); }, Oculta::Nada, "d/(2*SQR(u))",
+     "square root"},
+    // d(1/COS(u)) and d(1/SIN(u)), a rule further
+    {Operación::Sec, "SEC", Familia::Función, 1, 10,
+     [](double, double b, Azar*) { return DevSecante(b); },
+     [](double, double b) { return filas::EntreCero(std::cos(b) == 0); }, Oculta::Nada,
+     "-1*[-d*SIN(u)]/COS(u)^2", "1 / COS(argument)"},
+    {Operación::Cosec, "COSEC", Familia::Función, 1, 2,
+     [](double, double b, Azar*) { return DevCosecante(b); },
+     [](double, double b) { return filas::EntreCero(std::sin(b) == 0); }, Oculta::Nada,
+     "-1*[d*COS(u)]/SIN(u)^2", "1 / SIN(argument)"},
+    // d(ATN(u/SQR(-u*u+1))) with u in parentheses, by the rules for ATN, quotient, SQR and product
+    {Operación::Arcsin, "ARCSIN", Familia::Función, 1, 1,
+     [](double, double b, Azar*) { return DevArcoseno(b); }, filas::FalloArcoseno, Oculta::Nada,
+     "(SQR(-(u)*(u)+1)*[d]-(u)*[(-(u)*[d]+(u)*[-d])/(2*SQR(-(u)*(u)+1))])/SQR(-(u)*(u)+1)^2"
+     "/(1+((u)/SQR(-(u)*(u)+1))^2)",
+     "ATN(a / SQR(1 - a*a))"},
+    {Operación::Sln, "SLN", Familia::Símbolo, 1, 11,
+     [](double, double b, Azar* azar) { return DevSln(b, azar); }, filas::NoFalla, Oculta::Nada, "",
+     "the argument; a random number in [0, 1) where it is 0"},
 }};
+
+constexpr bool EstáCompleta(const DescripciónOperación& fila) {
+    const bool esFunción = fila.familia == Familia::Función;
+    const auto deSuAridad = [&](const DescripciónOperación& otra) {
+        return otra.aridad == fila.aridad;
+    };
+    return !fila.nombre.empty() && !fila.significado.empty() &&
+           fila.aridad == (esFunción || fila.familia == Familia::Símbolo ? 1 : 2) &&
+           fila.orden >= 1 && fila.orden <= std::ranges::count_if(TablaOperaciones, deSuAridad) &&
+           std::ranges::count_if(TablaOperaciones,
+                                 [&](const DescripciónOperación& otra) {
+                                     return deSuAridad(otra) && otra.orden == fila.orden;
+                                 }) == 1 &&
+           std::ranges::count(TablaOperaciones, fila.código, &DescripciónOperación::código) == 1 &&
+           std::ranges::count(TablaOperaciones, fila.nombre, &DescripciónOperación::nombre) == 1 &&
+           fila.valor != nullptr && fila.fallo != nullptr && fila.derivada.empty() != esFunción;
+}
+static_assert(std::ranges::all_of(TablaOperaciones, EstáCompleta),
+              "each row needs a name, an arity, a place in the order, a value, a fault and, of a "
+              "function, a derivative");
+
+// The operations of an arity in the order in which the compiler takes them.
+template <int Aridad> consteval auto EnOrden() {
+    constexpr auto esSuya = [](const DescripciónOperación& fila) { return fila.aridad == Aridad; };
+    std::array<Operación, std::ranges::count_if(TablaOperaciones, esSuya)> enOrden{};
+    for (const DescripciónOperación& fila : TablaOperaciones)
+        if (esSuya(fila))
+            enOrden[static_cast<std::size_t>(fila.orden - 1)] = fila.código;
+    return enOrden;
+}
+inline constexpr auto OrdenFunciones = EnOrden<1>();
+inline constexpr auto OrdenOperadores = EnOrden<2>();
+
+// The row of a code, or null where there is none.
+constexpr const DescripciónOperación* BuscaOperación(Operación código) {
+    for (const DescripciónOperación& fila : TablaOperaciones)
+        if (fila.código == código)
+            return &fila;
+    return nullptr;
+}
+
+// The row of an operator's character, or null.
+constexpr const DescripciónOperación* BuscaOperador(char c) {
+    for (const DescripciónOperación& fila : TablaOperaciones)
+        if (fila.EsBinaria() && fila.nombre.front() == c)
+            return &fila;
+    return nullptr;
+}
+
+// The row of the function whose name and parenthesis begin the text, or null.
+constexpr const DescripciónOperación* BuscaFunción(std::string_view texto) {
+    for (const DescripciónOperación& fila : TablaOperaciones)
+        if (!fila.EsBinaria() && texto.starts_with(fila.nombre) &&
+            texto.substr(fila.nombre.size()).starts_with('('))
+            return &fila;
+    return nullptr;
+}
+
+// Length of the name, with its parenthesis, of a function that may be typed and begins the text;
+// 0 where none does.
+constexpr std::size_t LongitudNombre(std::string_view texto) {
+    const DescripciónOperación* const fila = BuscaFunción(texto);
+    return fila != nullptr && fila->familia == Familia::Función ? fila->nombre.size() + 1 : 0;
+}
+
+// How a variable's symbol begins: SLN and its parenthesis.
+inline constexpr std::string_view PrefijoSln = "SLN(";
+static_assert(BuscaFunción(PrefijoSln)->código == Operación::Sln);
 
 } // namespace quiralto

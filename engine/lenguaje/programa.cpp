@@ -2,8 +2,6 @@
 
 #include "engine/numeros/numero.h"
 
-#include <algorithm>
-
 namespace quiralto {
 
 std::string ListaPrograma(const Programa& programa) {
@@ -16,10 +14,11 @@ std::string ListaPrograma(const Programa& programa) {
     };
     std::string lista;
     for (const Instrucción& i : programa.instrucciones) {
-        const auto operación =
-            std::ranges::find(TablaOperaciones, i.código, &DescripciónOperación::código);
+        const DescripciónOperación* const operación = BuscaOperación(i.código);
+        if (operación == nullptr)
+            continue;
         lista += "Z" + std::to_string(i.resultado) + " := ";
-        if (operación->binaria)
+        if (operación->EsBinaria())
             lista += nombre(i.izquierdo) + ' ';
         lista.append(operación->nombre) += ' ';
         lista += nombre(i.derecho) + '\n';

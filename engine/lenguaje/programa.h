@@ -37,7 +37,7 @@ struct Programa {
 };
 
 // The program as text, a line an instruction: "Z3 := Z1 + Z2", "Z5 := SIN Z4"; constants stand as
-// numbers, register 0 as X.
+// numbers, register 0 as X. An instruction outside the table, which does nothing, is left out.
 std::string ListaPrograma(const Programa& programa);
 
 } // namespace quiralto

@@ -1,6 +1,7 @@
 // The places where a sign binds to the base of a power: behind "*", "/" and "^" the language takes
 // a sign with its operand before any power. Differentiation uses these to say with parentheses what
 // it means.
+// Tested by deriva_test.cpp.
 #pragma once
 
 #include <string>

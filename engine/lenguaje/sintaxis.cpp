@@ -2,6 +2,7 @@
 
 #include "engine/base/caracteres.h"
 #include "engine/base/utf8.h"
+#include "engine/lenguaje/operaciones.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
@@ -27,11 +28,10 @@ std::optional<Rechazo> CompruebaVacía(const std::string& texto) {
     return Rechazo{.motivo = Motivo::SinFórmula};
 }
 
-// Length of the function name with its parenthesis that begins the text; 0 where none does.
-std::size_t LongitudNombre(const Contexto& contexto, std::string_view texto) {
-    for (const std::string_view nombre : NombresFunción)
-        if (texto.starts_with(nombre) && texto.substr(nombre.size()).starts_with('('))
-            return nombre.size() + 1;
+// Length of the function name or set prefix that begins the text; 0 where none does.
+std::size_t LongitudNombreOPrefijo(const Contexto& contexto, std::string_view texto) {
+    if (const std::size_t longitud = LongitudNombre(texto); longitud > 0)
+        return longitud;
     const std::string& prefijo = contexto.PrefijoVariable;
     return !prefijo.empty() && texto.starts_with(prefijo) ? prefijo.size() : 0;
 }
@@ -42,7 +42,8 @@ std::optional<Rechazo> CompruebaCaracteres(const Contexto& contexto, const std::
             ++i;
             continue;
         }
-        const std::size_t salto = LongitudNombre(contexto, std::string_view(texto).substr(i));
+        const std::size_t salto =
+            LongitudNombreOPrefijo(contexto, std::string_view(texto).substr(i));
         if (salto == 0) {
             // A character is shown whole, whatever its length in bytes.
             const std::size_t longitud = std::max<std::size_t>(1, LongitudCarácter(texto, i));

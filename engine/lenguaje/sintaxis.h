@@ -2,23 +2,17 @@
 // is compiled, and the folding of signs that the whole engine uses on the texts it builds.
 //
 // A text that Sintaxis has accepted is ASCII, holds digits, ".", "+-*/^()", "X" and the function
-// names ARCSIN COSEC SIN COS TAN ATN LOG EXP SQR SEC (and Contexto::PrefijoVariable while it is
-// set), and its numbers are in the general form of numero.h.
+// names of operaciones.h (and Contexto::PrefijoVariable while it is set), and its numbers are in
+// the general form of numero.h.
 #pragma once
 
 #include "engine/base/rechazo.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace quiralto {
-
-// The function names in the order in which they are looked for: a name that ends in another one
-// stands before it.
-inline constexpr std::array<std::string_view, 10> NombresFunción = {
-    "ARCSIN", "COSEC", "SIN", "COS", "TAN", "ATN", "LOG", "EXP", "SQR", "SEC"};
 
 // Checks the text and normalises it in place: exponents marked, signs folded, numbers rounded to
 // DígitosRedondeo and rewritten. None if it is a formula; otherwise what is wrong and where in the

@@ -87,19 +87,21 @@ private:
 
 Racional Ejecución::Opera(const Instrucción& instrucción) {
     const Racional derecho = Toma(instrucción.derecho);
-    if (instrucción.código > Operación::Potencia)
-        return AplicaFunción(instrucción.código, derecho);
-    const Racional izquierdo = Toma(instrucción.izquierdo);
-    switch (instrucción.código) {
-    case Operación::Suma:
+    const DescripciónOperación& operación = *BuscaOperación(instrucción.código);
+    const Racional izquierdo = operación.EsBinaria() ? Toma(instrucción.izquierdo) : Racional{};
+    switch (operación.familia) {
+    case Familia::Suma:
         return SumaRacional(contexto_, izquierdo, derecho);
-    case Operación::Resta:
+    case Familia::Resta:
         return RestaRacional(contexto_, izquierdo, derecho);
-    case Operación::Producto:
+    case Familia::Producto:
         return MultiplicaRacional(contexto_, izquierdo, derecho);
-    case Operación::Cociente:
+    case Familia::Cociente:
         return DivideRacional(contexto_, izquierdo, derecho);
-    default:
+    case Familia::Función:
+    case Familia::Símbolo:
+        return AplicaFunción(instrucción.código, derecho);
+    case Familia::Potencia:
         break;
     }
     const std::optional<double> exponente = DevValorEscrito(derecho);

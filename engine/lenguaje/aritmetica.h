@@ -1,11 +1,10 @@
-// The arithmetic of one instruction, shared by the scalar and the block run so that both give the
-// same bits. Inline, for the two of them only.
+// The arithmetic behind the rows of operaciones.h, inline so that the scalar and the block run are
+// compiled from the same lines and give the same bits.
 #pragma once
 
-#include "engine/lenguaje/operaciones.h"
+#include "engine/base/azar.h"
 
 #include <cmath>
-#include <cstdint>
 
 namespace quiralto {
 
@@ -65,44 +64,9 @@ inline double DevArcoseno(double a) {
     return raíz == 0 ? a / raíz : std::atan(a / raíz);
 }
 
-// One instruction on two values; `sln` is what SLN does. A code outside the table gives `actual`.
-template <typename Sln>
-inline double Opera(Operación código, double izquierdo, double derecho, double actual, Sln sln) {
-    switch (código) {
-    case Operación::Suma:
-        return izquierdo + derecho;
-    case Operación::Resta:
-        return izquierdo - derecho;
-    case Operación::Producto:
-        return izquierdo * derecho;
-    case Operación::Cociente:
-        return izquierdo / derecho;
-    case Operación::Potencia:
-        return DevPotencia(izquierdo, derecho);
-    case Operación::Log:
-        return std::log(derecho);
-    case Operación::Sin:
-        return std::sin(derecho);
-    case Operación::Cos:
-        return std::cos(derecho);
-    case Operación::Tan:
-        return std::tan(derecho);
-    case Operación::Atn:
-        return std::atan(derecho);
-    case Operación::Exp:
-        return std::exp(derecho);
-    case Operación::Sqr:
-        return std::sqrt(derecho);
-    case Operación::Sec:
-        return DevSecante(derecho);
-    case Operación::Cosec:
-        return DevCosecante(derecho);
-    case Operación::Arcsin:
-        return DevArcoseno(derecho);
-    case Operación::Sln:
-        return sln(derecho);
-    }
-    return actual;
+// The argument itself; a random number in [0, 1) where it is 0.
+inline double DevSln(double a, Azar* azar) {
+    return a == 0 ? std::uniform_real_distribution<double>(0, 1)(*azar) : a;
 }
 
 } // namespace quiralto
