@@ -3,8 +3,8 @@
 
 #include "bench/apoyo.h"
 #include "engine/lenguaje/compila.h"
+#include "engine/polinomios/evalua_racional.h"
 #include "engine/polinomios/mcd.h"
-#include "engine/polinomios/racional.h"
 
 #include <benchmark/benchmark.h>
 #include <ginac/ginac.h>
@@ -126,7 +126,7 @@ void Potencia(benchmark::State& estado) {
 // Terms of far apart exponents: sums, and products without cells for every exponent.
 void SumaDispersa(benchmark::State& estado) {
     Banco banco;
-    TérminosPolinomio<double> términos;
+    Monomios<double> términos;
     for (std::int64_t i = 0; i < estado.range(0); ++i)
         términos.push_back({static_cast<double>(i * i * 1000), static_cast<double>(i + 1)});
     const Polinomio p = ReduceTérminos(banco.contexto, términos);

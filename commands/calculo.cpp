@@ -16,7 +16,7 @@ namespace {
 
 // The line y = pendiente*X + corte in the display form of polynomials.
 std::string TextoRecta(const Contexto& contexto, double pendiente, double corte) {
-    return EscribePolinomio(contexto, TérminosPolinomio<double>{{1, CompruebaFinito(pendiente)},
+    return EscribePolinomio(contexto, Monomios<double>{{1, CompruebaFinito(pendiente)},
                                                                 {0, CompruebaFinito(corte)}});
 }
 

@@ -4,7 +4,7 @@
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
-#include "engine/polinomios/racional.h"
+#include "engine/polinomios/evalua_racional.h"
 
 #include <span>
 #include <string>

@@ -2,8 +2,9 @@
 
 #include "commands/datos_funcion.h"
 #include "engine/lenguaje/compila.h"
+#include "engine/polinomios/evalua_racional.h"
 #include "engine/polinomios/factores.h"
-#include "engine/polinomios/racional.h"
+#include "engine/polinomios/mcd_racionales.h"
 
 #include <optional>
 #include <span>
@@ -54,9 +55,9 @@ void ResolverSimplificarFunciónRacional(Contexto& contexto, Hoja& hoja) {
     const auto racional = EvalúaRacional(contexto, CompilaExpresión(datos->función));
     if (!racional)
         return;
-    const std::string simple = SeparaRacional(contexto, SimplificaRacional(contexto, *racional));
-    const bool esCociente = simple.find('/') != std::string::npos;
-    (hoja.texto += esCociente ? "\r\n\r\n'Simplificación :" : "\r\n\r\nSimplificación :") += simple;
+    const Racional simple = SimplificaRacional(contexto, *racional);
+    hoja.texto += EsPolinomio(simple) ? "\r\n\r\nSimplificación :" : "\r\n\r\n'Simplificación :";
+    hoja.texto += SeparaRacional(contexto, simple);
 }
 
 void ResolverFactorizarFunciónRacional(Contexto& contexto, Hoja& hoja) {
@@ -69,7 +70,7 @@ void ResolverFactorizarFunciónRacional(Contexto& contexto, Hoja& hoja) {
     auto racional = EvalúaRacional(contexto, CompilaExpresión(datos->función));
     if (!racional)
         return;
-    const Racional r = ConDenominadorLegible(contexto, *std::move(racional));
+    const Racional r = ConCoeficientesLegibles(contexto, *std::move(racional));
     const std::string numerador = FactorizaPolinomio(contexto, r.numerador, a, b, h);
     const std::string denominador = FactorizaPolinomio(contexto, r.denominador, a, b, h);
     hoja.texto += "\r\n\r\n'Factorización :(" + numerador + ")/(" + denominador + ')';

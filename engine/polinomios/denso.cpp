@@ -8,7 +8,7 @@ namespace quiralto {
 namespace {
 
 std::uint64_t DevPaso(const PolinomioExacto& p, double bajo, std::uint64_t paso) {
-    for (const TérminoPolinomio<Entero>& t : p.términos)
+    for (const Monomio<Entero>& t : p.términos)
         paso = std::gcd(paso, static_cast<std::uint64_t>(t.exponente - bajo));
     return paso;
 }
@@ -16,7 +16,7 @@ std::uint64_t DevPaso(const PolinomioExacto& p, double bajo, std::uint64_t paso)
 Disperso DevDisperso(const PolinomioExacto& p, double bajo, std::uint64_t paso) {
     Disperso disperso;
     disperso.reserve(p.términos.size());
-    for (const TérminoPolinomio<Entero>& t : p.términos)
+    for (const Monomio<Entero>& t : p.términos)
         disperso.push_back({static_cast<std::uint64_t>(t.exponente - bajo) / paso, t.coeficiente});
     return disperso;
 }
@@ -37,35 +37,27 @@ Denso DevDenso(const Disperso& p) {
     if (p.front().exponente > MáximoTérminosPolinomio)
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
     Denso denso(static_cast<std::size_t>(p.front().exponente) + 1);
-    for (const TérminoNatural& t : p)
+    for (const MonomioNatural& t : p)
         denso[static_cast<std::size_t>(t.exponente)] = t.coeficiente;
     return denso;
 }
 
 Polinomio DevPolinomio(Denso denso, double bajo, double paso, Entero denominador) {
-    TérminosPolinomio<Entero> términos;
+    Monomios<Entero> términos;
     for (std::size_t i = denso.size(); i-- > 0;)
         if (!denso[i].EsCero())
             términos.push_back({static_cast<double>(i) * paso + bajo, std::move(denso[i])});
     return DevExacto(std::move(términos), std::move(denominador));
 }
 
-Entero DevContenido(const Denso& p) {
-    Entero contenido = 0;
-    for (const Entero& c : p)
-        if (!contenido.EsUno())
-            contenido = DevMCD(std::move(contenido), c);
+Entero DividePorContenido(Denso& p) {
+    Entero contenido = DevContenido(p);
     if (p.back().Signo() < 0)
         contenido.CambiaSigno();
+    if (!contenido.EsUno())
+        for (Entero& c : p)
+            c = Entero::Divide(c, contenido).cociente;
     return contenido;
-}
-
-void DividePorContenido(Denso& p) {
-    const Entero contenido = DevContenido(p);
-    if (contenido.EsUno())
-        return;
-    for (Entero& c : p)
-        c = Entero::Divide(c, contenido).cociente;
 }
 
 std::optional<Denso> DivideDensos(Contexto& contexto, Denso resto, const Denso& divisor) {

@@ -10,11 +10,8 @@
 
 namespace quiralto {
 
-struct TérminoNatural {
-    std::uint64_t exponente;
-    Entero coeficiente;
-};
-using Disperso = std::vector<TérminoNatural>; // highest exponent first, never empty
+using MonomioNatural = Monomio<Entero, std::uint64_t>;
+using Disperso = std::vector<MonomioNatural>; // highest exponent first, never empty
 using Denso = std::vector<Entero>;            // coefficient i is that of X^i; the last one is not 0
 
 // Two exact polynomials p and q in the variable Y = X^paso, without the powers of X that they
@@ -35,10 +32,8 @@ Denso DevDenso(const Disperso& p);
 // X^bajo * p(X^paso) / denominador
 Polinomio DevPolinomio(Denso denso, double bajo, double paso, Entero denominador);
 
-// The greatest common divisor of the coefficients, with the sign of the leading one.
-Entero DevContenido(const Denso& p);
-
-void DividePorContenido(Denso& p);
+// Leaves no common factor in the coefficients and the leading one positive; what it has divided by.
+Entero DividePorContenido(Denso& p);
 
 // The quotient where every step of the division is exact and nothing is left.
 std::optional<Denso> DivideDensos(Contexto& contexto, Denso resto, const Denso& divisor);

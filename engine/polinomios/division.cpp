@@ -12,15 +12,15 @@ namespace {
 
 template <typename C> using Resto = std::map<double, C, std::greater<>>;
 
-template <typename C> Resto<C> DevResto(const TérminosPolinomio<C>& términos) {
+template <typename C> Resto<C> DevResto(const Monomios<C>& términos) {
     Resto<C> resto;
-    for (const TérminoPolinomio<C>& t : términos)
+    for (const Monomio<C>& t : términos)
         resto.emplace_hint(resto.end(), t.exponente, t.coeficiente);
     return resto;
 }
 
-template <typename C> TérminosPolinomio<C> DevTérminos(const Resto<C>& resto) {
-    TérminosPolinomio<C> términos;
+template <typename C> Monomios<C> DevTérminos(const Resto<C>& resto) {
+    Monomios<C> términos;
     términos.reserve(resto.size());
     for (const auto& [exponente, coeficiente] : resto)
         términos.push_back({exponente, coeficiente});
@@ -30,8 +30,8 @@ template <typename C> TérminosPolinomio<C> DevTérminos(const Resto<C>& resto) 
 // Subtracts factor * X^salto * divisor but for the leading term, which is gone already; `arregla`
 // sees every coefficient that has changed.
 template <typename C, typename Arregla>
-void RestaMúltiplo(Resto<C>& resto, const TérminosPolinomio<C>& divisor, double salto,
-                   const C& menosFactor, Arregla arregla) {
+void RestaMúltiplo(Resto<C>& resto, const Monomios<C>& divisor, double salto, const C& menosFactor,
+                   Arregla arregla) {
     for (std::size_t i = 1; i < divisor.size(); ++i) {
         const auto lugar =
             resto.try_emplace(SumaExponentes(divisor[i].exponente, salto), C(0)).first;
@@ -50,7 +50,7 @@ División DivideReales(Contexto& contexto, const PolinomioReal& dividendo,
     };
     Resto<double> resto = DevResto(dividendo);
     PolinomioReal cociente;
-    const TérminoPolinomio<double>& principal = divisor.front();
+    const Monomio<double>& principal = divisor.front();
     while (!resto.empty() && resto.begin()->first >= principal.exponente) {
         contexto.Vigila();
         const double exponente = resto.begin()->first;
@@ -75,7 +75,7 @@ División DivideReales(Contexto& contexto, const PolinomioReal& dividendo,
 // Makes `factor`, the remainder's leading coefficient, a multiple of the divisor's, by multiplying
 // everything by the least whole number that does it, and divides it.
 void DivideFactor(Entero& factor, const Entero& principal, Entero& escala, Resto<Entero>& resto,
-                  TérminosPolinomio<Entero>& cociente) {
+                  Monomios<Entero>& cociente) {
     const Entero común = DevMCD(factor, principal);
     Entero sube = Entero::Divide(principal, común).cociente;
     factor = Entero::Divide(factor, común).cociente;
@@ -97,7 +97,7 @@ std::optional<División> DivideExactos(Contexto& contexto, const PolinomioExacto
                                       const PolinomioExacto& divisor) {
     // escala * dividendo = divisor * cociente + resto, all over whole numbers.
     Resto<Entero> resto = DevResto(dividendo.términos);
-    TérminosPolinomio<Entero> cociente;
+    Monomios<Entero> cociente;
     Entero escala = 1;
     const auto& [exponentePrincipal, principal] = divisor.términos.front();
     while (!resto.empty() && resto.begin()->first >= exponentePrincipal) {
@@ -116,7 +116,7 @@ std::optional<División> DivideExactos(Contexto& contexto, const PolinomioExacto
         if (!resto.empty() && resto.begin()->first >= exponente)
             throw ErrorEjecución(Desbordamiento);
     }
-    TérminosPolinomio<Entero> restoFinal = DevTérminos(resto);
+    Monomios<Entero> restoFinal = DevTérminos(resto);
     // dividendo / d1 = (divisor / d2) * (cociente * d2 / (d1 * escala)) + resto / (d1 * escala)
     const Entero denominador = escala * dividendo.denominador;
     for (auto& t : cociente)

@@ -2,21 +2,19 @@
 
 #include "engine/evaluacion/raices.h"
 #include "engine/lenguaje/compila.h"
-#include "engine/lenguaje/sintaxis.h"
+#include "engine/lenguaje/termino_texto.h"
 #include "engine/numeros/numero.h"
 #include "engine/polinomios/division.h"
 #include "engine/polinomios/mcd.h"
+#include "engine/polinomios/raices_exactas.h"
 
 #include <vector>
 
 namespace quiralto {
 namespace {
 
-// Above this degree the common factor with the derivative would take longer than the search.
-constexpr double MáximoGradoSinCuadrados = 1000;
-
 Polinomio DerivaExacto(const PolinomioExacto& p) {
-    TérminosPolinomio<Entero> derivada;
+    Monomios<Entero> derivada;
     for (const auto& [exponente, coeficiente] : p.términos)
         if (exponente != 0)
             derivada.push_back({exponente - 1, coeficiente * Entero::DesdeDouble(exponente)});
@@ -27,56 +25,81 @@ Polinomio DerivaExacto(const PolinomioExacto& p) {
 // root, and rounding does not blur where.
 Polinomio SinRaícesMúltiples(Contexto& contexto, const Polinomio& p) {
     const auto* const exacto = std::get_if<PolinomioExacto>(&p);
-    if (exacto == nullptr || (DevGrado(p) > MáximoGradoSinCuadrados && exacto->términos.size() > 1))
+    if (exacto == nullptr || (DevGrado(p) > MáximoGradoExacto && exacto->términos.size() > 1))
         return p;
-    const Polinomio común = DevFactorComún(contexto, p, DerivaExacto(*exacto));
+    const Polinomio común = MCDPrimitivo(contexto, p, DerivaExacto(*exacto));
     return EsUno(común) ? p : DividePolinomios(contexto, p, común).cociente;
 }
 
-// Whole coefficients: nothing of them is lost in a text.
-Polinomio QuitaDenominador(const Polinomio& p) {
-    const PolinomioExacto* const exacto = SiExacto(p);
-    return exacto == nullptr ? p : DevExacto(exacto->términos, 1);
+struct Raíz {
+    double valor;
+    std::optional<RaízExacta> exacta; // none where the polynomial is not exact, or of high degree
+};
+
+// Whole coefficients, where the signs can be taken exactly.
+std::optional<Denso> SiDenso(const Polinomio& simple) {
+    const PolinomioExacto* const exacto = SiExacto(simple);
+    if (exacto == nullptr || DevGrado(simple) > MáximoGradoExacto)
+        return std::nullopt;
+    Denso denso(static_cast<std::size_t>(DevGrado(simple)) + 1);
+    for (const auto& [exponente, coeficiente] : exacto->términos)
+        denso[static_cast<std::size_t>(exponente)] = coeficiente;
+    return denso;
 }
 
 // The roots from left to right; never more than the degree, whatever rounding makes of the signs.
-std::vector<Solución> DevRaíces(Contexto& contexto, const Polinomio& p, double a, double b,
-                                double h) {
-    const Polinomio simple = SinRaícesMúltiples(contexto, p);
-    Programa programa = CompilaExpresión(EscribePolinomio(contexto, QuitaDenominador(simple)));
-    const double grado = DevGrado(p);
-    std::vector<Solución> raíces;
+// Where signs can be taken exactly, none that is no root and none twice.
+std::vector<Raíz> DevRaíces(Contexto& contexto, const Polinomio& p, double a, double b, double h) {
+    // Whole coefficients: nothing of them is lost in a text.
+    const Polinomio simple = DevPrimitivo(SinRaícesMúltiples(contexto, p));
+    const std::optional<Denso> denso = SiDenso(simple);
+    Programa programa = CompilaExpresión(EscribePolinomio(contexto, simple));
+    std::vector<Raíz> raíces;
     for (std::optional<double> comienzo = a;
-         comienzo && static_cast<double>(raíces.size()) < grado;) {
-        std::optional<Solución> raíz = BuscaSolución(contexto, programa, *comienzo, b, h);
-        if (!raíz)
+         comienzo && static_cast<double>(raíces.size()) < DevGrado(p);) {
+        const auto solución = BuscaSolución(contexto, programa, *comienzo, b, h);
+        if (!solución)
             break;
-        comienzo = DevSiguienteComienzo(*raíz, h);
-        raíces.push_back(*std::move(raíz));
+        comienzo = DevSiguienteComienzo(*solución, h);
+        if (!denso) {
+            raíces.push_back({Val(solución->texto), std::nullopt});
+            continue;
+        }
+        const auto exacta = DevRaízExacta(contexto, *denso, solución->raíz, h);
+        if (exacta && (raíces.empty() || raíces.back().exacta != exacta))
+            raíces.push_back({exacta->ADouble(), exacta});
     }
     return raíces;
 }
 
-std::string TextoFactores(const std::vector<Solución>& raíces) {
+std::string TextoFactores(const Contexto& contexto, const std::vector<Raíz>& raíces) {
     std::string texto;
-    for (const Solución& raíz : raíces) {
+    for (const Raíz& raíz : raíces) {
         if (!texto.empty())
             texto += '*';
-        const std::string r = TextoNúmero(Val(raíz.texto));
-        if (r == "0")
+        const double redondeada = Redondea(raíz.valor, contexto.DígitosRedondeo);
+        if (redondeada == 0) {
             texto += 'X';
-        else
-            (texto += "(X-").append(r) += ')';
+            continue;
+        }
+        EscribeTérmino(texto += "(X", -redondeada, {});
+        texto += ')';
     }
-    return SimplificaSignos(texto);
+    return texto;
 }
 
-Polinomio DevProducto(Contexto& contexto, const std::vector<Solución>& raíces) {
+Polinomio DevCociente(Contexto& contexto, const Polinomio& p, const std::vector<Raíz>& raíces) {
+    if (raíces.front().exacta) {
+        std::vector<RaízExacta> exactas;
+        for (const Raíz& raíz : raíces)
+            exactas.push_back(*raíz.exacta);
+        return DivideEntreRaíces(contexto, *SiExacto(p), exactas);
+    }
     Polinomio producto = DevConstante(1);
-    for (const Solución& raíz : raíces)
+    for (const Raíz& raíz : raíces)
         producto = MultiplicaPolinomios(
-            contexto, producto, RestaPolinomios(DevPotenciaDeX(1), DevConstante(Val(raíz.texto))));
-    return producto;
+            contexto, producto, RestaPolinomios(DevPotenciaDeX(1), DevConstante(raíz.valor)));
+    return DividePolinomios(contexto, p, producto).cociente;
 }
 
 std::string TextoCoeficientePrincipal(const Contexto& contexto, const Polinomio& p) {
@@ -93,14 +116,13 @@ std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, d
     const Polinomio p = QuitaNulos(contexto, polinomio);
     if (EsConstante(p) || !TieneExponentesNaturales(p))
         return EscribePolinomio(contexto, p);
-    const std::vector<Solución> raíces = DevRaíces(contexto, p, a, b, h);
+    const std::vector<Raíz> raíces = DevRaíces(contexto, p, a, b, h);
     if (raíces.empty())
         return EscribePolinomio(contexto, p);
-    const std::string factores = TextoFactores(raíces);
+    const std::string factores = TextoFactores(contexto, raíces);
     if (static_cast<double>(raíces.size()) == DevGrado(p))
         return TextoCoeficientePrincipal(contexto, p) + factores;
-    const Polinomio cociente =
-        DividePolinomios(contexto, p, DevProducto(contexto, raíces)).cociente;
+    const Polinomio cociente = DevCociente(contexto, p, raíces);
     return factores + "*(" + EscribePolinomio(contexto, cociente) + ')';
 }
 

@@ -205,7 +205,7 @@ Polinomio DevÚltimoDivisorRedondeado(Contexto& contexto, const Polinomio& p, co
 
 double DevMayorCoeficiente(const PolinomioReal& p) {
     double mayor = 0;
-    for (const TérminoPolinomio<double>& t : p)
+    for (const Monomio<double>& t : p)
         mayor = std::max(mayor, std::fabs(t.coeficiente));
     return mayor;
 }
@@ -244,7 +244,7 @@ Polinomio MCDPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio&
     return DevÚltimoDivisorRedondeado(contexto, p, q);
 }
 
-Polinomio DevFactorComún(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
+Polinomio MCDPrimitivo(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
     if (const auto exactos = SiExactos(p, q))
         return MCDExacto(contexto, *exactos).DevPrimitivo();
     const PolinomioReal común = AReal(MCDPolinomios(contexto, p, q));
@@ -269,8 +269,8 @@ std::optional<Polinomio> DivideSiExacta(Contexto& contexto, const Polinomio& div
     if (p.front().exponente < q.front().exponente || p.back().exponente < q.back().exponente)
         return std::nullopt;
     if (q.size() == 1) {
-        TérminosPolinomio<Entero> cociente;
-        for (const TérminoNatural& t : p)
+        Monomios<Entero> cociente;
+        for (const MonomioNatural& t : p)
             cociente.push_back(
                 {static_cast<double>(t.exponente) * paso, t.coeficiente * exactos->q.denominador});
         return DevExacto(std::move(cociente), exactos->p.denominador * q.front().coeficiente);
@@ -289,8 +289,7 @@ std::optional<Polinomio> DivideSiExacta(Contexto& contexto, const Polinomio& div
     }
     // A primitive divisor that divides at all leaves whole quotients (Gauss's lemma).
     Denso primitivo = DevDenso(q);
-    const Entero contenido = DevContenido(primitivo);
-    DividePorContenido(primitivo);
+    const Entero contenido = DividePorContenido(primitivo);
     std::optional<Denso> cociente = DivideDensos(contexto, DevDenso(p), primitivo);
     if (!cociente)
         return std::nullopt;

@@ -19,10 +19,10 @@ namespace quiralto {
 // Fault: run-time error 14 where both have a degree past MáximoTérminosPolinomio.
 Polinomio MCDPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio& q);
 
-// A common factor of highest degree to divide both by: for exact polynomials with whole
-// coefficients, no common factor in them, the leading one positive; for others the leading
+// The greatest common divisor to divide both by, neither of them 0: for exact polynomials with
+// whole coefficients, no common factor in them, the leading one positive; for others the leading
 // coefficient 1, and a remainder that rounding explains. The constant 1 where there is none.
-Polinomio DevFactorComún(Contexto& contexto, const Polinomio& p, const Polinomio& q);
+Polinomio MCDPrimitivo(Contexto& contexto, const Polinomio& p, const Polinomio& q);
 
 // The quotient where the divisor (not 0) leaves no remainder; otherwise none. On exact data it is
 // exact, and found out before any coefficient grows.

@@ -19,7 +19,7 @@ std::optional<Imagen> Imágenes::DevImagen(const Disperso& p, const Entero& deno
         return std::nullopt;
     const CampoPrimo::Resto factor = campo_.Inverso(abajo);
     Imagen imagen(static_cast<std::size_t>(p.front().exponente) + 1);
-    for (const TérminoNatural& t : p)
+    for (const MonomioNatural& t : p)
         imagen[static_cast<std::size_t>(t.exponente)] =
             campo_.Producto(campo_.DevResto(t.coeficiente), factor);
     return imagen;
@@ -97,7 +97,7 @@ Imagen Imágenes::DevRestoDisperso(const Disperso& p, const Entero& denominador,
     const Imagen mónico = Mónico(divisor);
     Imagen r(grado);
     std::uint64_t anterior = p.front().exponente;
-    for (const TérminoNatural& t : p) {
+    for (const MonomioNatural& t : p) {
         MultiplicaPorPotencia(r, anterior - t.exponente, mónico);
         r.front() = campo_.Suma(r.front(), campo_.DevResto(t.coeficiente));
         anterior = t.exponente;

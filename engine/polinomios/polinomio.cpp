@@ -16,7 +16,7 @@ bool EsDecimalCorto(double valor, int dígitos) {
 }
 
 // The exact polynomial with these coefficients, each as the general form writes it.
-Polinomio DevExactoDeDecimales(const TérminosPolinomio<double>& términos) {
+Polinomio DevExactoDeDecimales(const Monomios<double>& términos) {
     std::vector<FormaEntera> formas;
     formas.reserve(términos.size());
     int lugares = 0;
@@ -24,7 +24,7 @@ Polinomio DevExactoDeDecimales(const TérminosPolinomio<double>& términos) {
         formas.push_back(DevFormaEntera(término.coeficiente));
         lugares = std::max(lugares, -formas.back().exponente);
     }
-    TérminosPolinomio<Entero> enteros;
+    Monomios<Entero> enteros;
     enteros.reserve(términos.size());
     for (std::size_t i = 0; i < términos.size(); ++i) {
         Entero entero = términos[i].coeficiente < 0 ? -formas[i].mantisa : formas[i].mantisa;
@@ -72,17 +72,21 @@ std::string DevLiteral(double exponente) {
 
 // --- Text
 
-TérminosPolinomio<double> LeePolinomio(std::string_view texto) {
-    TérminosPolinomio<double> términos;
+Monomios<double> LeePolinomio(std::string_view texto) {
+    Monomios<double> términos;
     RecorreTérminos(texto, [&](std::string_view término) {
         términos.push_back({LeeExponente(término), LeeTérmino(término).coeficiente});
     });
     return términos;
 }
 
-Polinomio ReduceTérminos(const Contexto& contexto, TérminosPolinomio<double> términos) {
+PolinomiosLeídos LeePolinomios(std::string_view p, std::string_view q) {
+    return {LeePolinomio(p), LeePolinomio(q)};
+}
+
+Polinomio ReduceTérminos(const Contexto& contexto, Monomios<double> términos) {
     Ordena(términos);
-    if (std::ranges::all_of(términos, [&](const TérminoPolinomio<double>& t) {
+    if (std::ranges::all_of(términos, [&](const Monomio<double>& t) {
             return EsDecimalCorto(t.coeficiente, contexto.DígitosRedondeo);
         }))
         return DevExactoDeDecimales(términos);
@@ -90,7 +94,7 @@ Polinomio ReduceTérminos(const Contexto& contexto, TérminosPolinomio<double> t
     return DevReal(std::move(términos));
 }
 
-std::string EscribePolinomio(const Contexto& contexto, const TérminosPolinomio<double>& términos) {
+std::string EscribePolinomio(const Contexto& contexto, const Monomios<double>& términos) {
     std::string texto;
     for (const auto& [exponente, coeficiente] : términos) {
         const double redondeado = Redondea(coeficiente, contexto.DígitosRedondeo);
@@ -111,16 +115,10 @@ std::string EscribePolinomio(const Contexto& contexto, std::string_view texto) {
 Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p) {
     if (EsDeCoeficientesEnteros(p))
         return p;
-    TérminosPolinomio<double> términos = AReal(p);
-    for (TérminoPolinomio<double>& t : términos)
+    Monomios<double> términos = AReal(p);
+    for (Monomio<double>& t : términos)
         t.coeficiente = Redondea(t.coeficiente, contexto.DígitosRedondeo);
     return DevExactoDeDecimales(términos);
-}
-
-bool HayNulos(const Contexto& contexto, const Polinomio& p) {
-    return std::ranges::any_of(AReal(p), [&](const TérminoPolinomio<double>& t) {
-        return Redondea(t.coeficiente, contexto.DígitosRedondeo) == 0;
-    });
 }
 
 Polinomio QuitaNulos(const Contexto& contexto, Polinomio p) {
@@ -147,7 +145,7 @@ bool EsDeDecimales(const Contexto& contexto, const Polinomio& p) {
     constexpr int DígitosSignificativos = 15;
     const Entero tope = DevPotenciaDeDiez(DígitosSignificativos);
     const Entero escala = DevPotenciaDeDiez(contexto.DígitosRedondeo);
-    return std::ranges::all_of(exacto->términos, [&](const TérminoPolinomio<Entero>& t) {
+    return std::ranges::all_of(exacto->términos, [&](const Monomio<Entero>& t) {
         auto [escalado, sobra] = Entero::Divide(t.coeficiente * escala, exacto->denominador);
         if (!sobra.EsCero())
             return false;
@@ -165,26 +163,21 @@ bool EsDeDecimales(const Contexto& contexto, const Polinomio& p) {
 
 // --- Values
 
-Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador) {
+Polinomio DevExacto(Monomios<Entero> términos, Entero denominador) {
     Agrupa(términos);
     std::erase_if(términos, [](const auto& t) { return t.coeficiente.EsCero(); });
     CompruebaCantidad(términos.size());
-    Entero común = denominador;
-    for (const TérminoPolinomio<Entero>& t : términos) {
-        if (común.EsUno())
-            break;
-        común = DevMCD(común, t.coeficiente);
-    }
+    Entero común = DevContenido(términos, &Monomio<Entero>::coeficiente, denominador);
     if (denominador.Signo() < 0 && común.Signo() > 0)
         común.CambiaSigno();
     if (!común.EsUno()) {
         denominador = Entero::Divide(denominador, común).cociente;
-        for (TérminoPolinomio<Entero>& t : términos)
+        for (Monomio<Entero>& t : términos)
             t.coeficiente = Entero::Divide(t.coeficiente, común).cociente;
     }
     constexpr std::size_t BitsDeDouble = 1023; // within them every quotient is a finite Double
     std::size_t bits = 0;
-    for (const TérminoPolinomio<Entero>& t : términos) {
+    for (const Monomio<Entero>& t : términos) {
         const std::size_t suyos = t.coeficiente.Bits();
         bits = std::max(bits, suyos);
         if (suyos > BitsDeDouble)
@@ -194,6 +187,16 @@ Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador) {
     if (bits > MáximoBitsExactos || exacto.denominador.Bits() > MáximoBitsExactos)
         return DevReal(AReal(exacto));
     return exacto;
+}
+
+Polinomio DevPrimitivo(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    if (exacto == nullptr || EsCero(p))
+        return p;
+    Entero contenido = DevContenido(exacto->términos);
+    if (exacto->términos.front().coeficiente.Signo() < 0)
+        contenido.CambiaSigno();
+    return DevExacto(exacto->términos, std::move(contenido));
 }
 
 Polinomio DevReal(PolinomioReal términos) {
@@ -303,10 +306,10 @@ Polinomio MultiplicaPolinomios(Contexto& contexto, const Polinomio& p, const Pol
 
 Polinomio CambiaSigno(Polinomio p) {
     if (auto* const exacto = std::get_if<PolinomioExacto>(&p)) {
-        for (TérminoPolinomio<Entero>& t : exacto->términos)
+        for (Monomio<Entero>& t : exacto->términos)
             t.coeficiente.CambiaSigno();
     } else {
-        for (TérminoPolinomio<double>& t : std::get<PolinomioReal>(p))
+        for (Monomio<double>& t : std::get<PolinomioReal>(p))
             t.coeficiente = -t.coeficiente;
     }
     return p;

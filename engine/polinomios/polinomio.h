@@ -1,5 +1,5 @@
-// Polynomials in X: their value, their text and their arithmetic. division.h divides them,
-// mcd_polinomios.h holds what goes by common factors, racional.h the quotients of two.
+// Polynomials in X: their value, their text and their arithmetic. division.h divides them, mcd.h
+// holds what goes by common factors, racional.h the quotients of two.
 //
 // The value is a list of terms, highest exponent first, each exponent once, no coefficient 0; the
 // zero polynomial has no term. Exponents are real numbers and are compared as such. A polynomial is
@@ -26,36 +26,43 @@ namespace quiralto {
 inline constexpr std::size_t MáximoBitsExactos = 2048;
 
 // The sum of the terms, divided by the denominator, which is positive and has no factor in common
-// with all the coefficients.
+// with all the coefficients. One denominator for all of them, rather than fractions: common factors
+// are found modulo primes, over whole numbers.
 struct PolinomioExacto {
-    TérminosPolinomio<Entero> términos;
+    Monomios<Entero> términos;
     Entero denominador = 1;
 };
-using PolinomioReal = TérminosPolinomio<double>;
+using PolinomioReal = Monomios<double>;
 using Polinomio = std::variant<PolinomioExacto, PolinomioReal>;
 
 // --- Text
 
 // The terms of a text in the display form, as they stand: neither ordered nor collected; none for
 // an empty text. Fault: run-time error 6 for a number beyond the Double range.
-TérminosPolinomio<double> LeePolinomio(std::string_view texto);
+Monomios<double> LeePolinomio(std::string_view texto);
+
+// Two texts at once.
+struct PolinomiosLeídos {
+    Monomios<double> p;
+    Monomios<double> q;
+};
+PolinomiosLeídos LeePolinomios(std::string_view p, std::string_view q);
 
 // Orders the terms, highest exponent first, and collects those of equal exponents. The result is
 // exact where every coefficient is a decimal of at most DígitosRedondeo places in the general
 // number form.
-Polinomio ReduceTérminos(const Contexto& contexto, TérminosPolinomio<double> términos);
+Polinomio ReduceTérminos(const Contexto& contexto, Monomios<double> términos);
 
 // The display form: coefficients and exponents rounded to DígitosRedondeo, terms of coefficient 0
 // left out, "0" where none is left.
-std::string EscribePolinomio(const Contexto& contexto, const TérminosPolinomio<double>& términos);
+std::string EscribePolinomio(const Contexto& contexto, const Monomios<double>& términos);
 std::string EscribePolinomio(const Contexto& contexto, const Polinomio& p);
 std::string EscribePolinomio(const Contexto& contexto, std::string_view texto);
 
 // With the coefficients that the display form writes; the result is exact.
 Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p);
 
-// Whether the display form leaves terms out, and the polynomial without them.
-bool HayNulos(const Contexto& contexto, const Polinomio& p);
+// The polynomial without the terms that the display form leaves out.
 Polinomio QuitaNulos(const Contexto& contexto, Polinomio p);
 
 // Whether the display form writes it in full: exact decimals of at most DígitosRedondeo places.
@@ -84,10 +91,14 @@ bool TieneExponentesNaturales(const Polinomio& p); // all whole, none negative
 bool EsDeCoeficientesEnteros(const Polinomio& p);  // exact, denominator 1
 int SignoPrincipal(const Polinomio& p);            // of the leading coefficient
 
+// The multiple of an exact one that has whole coefficients without a common factor and a positive
+// leading one; 0 and real ones as they are.
+Polinomio DevPrimitivo(const Polinomio& p);
+
 // From whole coefficients (ordered, each exponent once, zeros allowed) over a denominator that is
 // not 0. Fault: run-time error 6 where a coefficient is beyond the Double range, 14 for too many
 // terms.
-Polinomio DevExacto(TérminosPolinomio<Entero> términos, Entero denominador);
+Polinomio DevExacto(Monomios<Entero> términos, Entero denominador);
 
 // From terms in order, each exponent once, zeros allowed. Faults as above.
 Polinomio DevReal(PolinomioReal términos);

@@ -1,15 +1,13 @@
 // Rational functions of X: a quotient of two polynomials, its arithmetic and its lowest terms.
+// evalua_racional.h makes one of a formula; mcd_racionales.h holds the gcd and lcm of several.
 //
 // The text is that of a polynomial where the denominator is 1, otherwise "(" numerator ")/("
 // denominator ")".
 #pragma once
 
 #include "engine/base/contexto.h"
-#include "engine/lenguaje/programa.h"
 #include "engine/polinomios/polinomio.h"
 
-#include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -23,10 +21,15 @@ struct Racional {
 Racional LeeRacional(const Contexto& contexto, std::string_view texto);
 std::string SeparaRacional(const Contexto& contexto, const Racional& r);
 
+// Whether the denominator is 1, and the text without a fraction bar.
+inline bool EsPolinomio(const Racional& r) {
+    return EsUno(r.denominador);
+}
+
 // None of these reduces to lowest terms, but for a quotient without a remainder, which is the
 // quotient polynomial alone. A negative exponent inverts the base first; 0 gives 1.
 // Faults: those of the polynomials' arithmetic; run-time error 11 for a division by 0; 129 for an
-// exponent that is not a whole number.
+// exponent that is not a whole number or has a point in its general form (2.5E+20).
 Racional SumaRacional(Contexto& contexto, const Racional& a, const Racional& b);
 Racional RestaRacional(Contexto& contexto, const Racional& a, const Racional& b);
 Racional MultiplicaRacional(Contexto& contexto, const Racional& a, const Racional& b);
@@ -37,29 +40,20 @@ Racional PotenciaRacional(Contexto& contexto, const Racional& base, double expon
 // leaves both as they are.
 void NormalizaFracción(Polinomio& numerador, Polinomio& denominador);
 
-// The quotient in lowest terms: no common factor, the denominator's leading coefficient positive.
-// Where all coefficients are whole after the division they have no common factor either; where
-// they are not, a constant denominator is divided into the numerator. 0 is 0 over 1.
+// The same function with whole coefficients without a common factor; as it is where they are not
+// all exact.
+Racional ConCoeficientesEnteros(Racional r);
+
+// The same function as a text can hold it: a polynomial as it is; a quotient of exact polynomials
+// with whole coefficients without a common factor where rounding would cut one of them short; any
+// other one times the power of ten that keeps every term of the denominator from being written as
+// 0.
+Racional ConCoeficientesLegibles(Contexto& contexto, Racional r);
+
+// The quotient in lowest terms: both divided by their gcd with a positive leading coefficient, and
+// by positive numbers, so that the signs stay. A constant denominator is divided into the numerator. The coefficients are
+// legible (above), and where all of them are whole they have no common factor. 0 is 0 over 1.
 // Fault: run-time error 11 for the denominator 0.
 Racional SimplificaRacional(Contexto& contexto, const Racional& r);
-
-// The same function, both sides scaled to whole coefficients where one of the denominator would be
-// written as 0.
-Racional ConDenominadorLegible(const Contexto& contexto, Racional r);
-
-// Their gcd: that of the numerators over the lcm of the denominators; and their lcm: that of the
-// numerators over the gcd of the denominators. Each function is brought to lowest terms first, and
-// the result too. The list is not empty.
-Racional DevMCDRacionales(Contexto& contexto, std::span<const Racional> funciones);
-Racional DevMCMRacionales(Contexto& contexto, std::span<const Racional> funciones);
-
-// The formula as one rational function, by running its program over rational functions. Functions
-// apply to constants alone. Faults: run-time errors 5, 6 and 11 as in a numeric evaluation, 129 for
-// a formula that is not a rational function of X; 14 past MáximoTérminosPolinomio.
-Racional CalculaRacional(Contexto& contexto, const Programa& programa);
-
-// The same for a user's formula: of the errors 5, 6, 11 and 129 the number is left in ErrorCódigo
-// (0 without an error) and a message shown. None after an error.
-std::optional<Racional> EvalúaRacional(Contexto& contexto, const Programa& programa);
 
 } // namespace quiralto

@@ -1,4 +1,4 @@
-// Lists of terms, the stuff of polynomials, with coefficients of either kind: whole numbers or
+// Lists of monomials, the stuff of polynomials, with coefficients of either kind: whole numbers or
 // Doubles. A list in order has its highest exponent first and each exponent once.
 #pragma once
 
@@ -17,12 +17,11 @@ namespace quiralto {
 // More terms than this are run-time error 14: past every use, and far below what memory holds.
 inline constexpr std::size_t MáximoTérminosPolinomio = 65536;
 
-template <typename Coeficiente> struct TérminoPolinomio {
-    double exponente;
+template <typename Coeficiente, typename Exponente = double> struct Monomio {
+    Exponente exponente;
     Coeficiente coeficiente;
 };
-template <typename Coeficiente>
-using TérminosPolinomio = std::vector<TérminoPolinomio<Coeficiente>>;
+template <typename Coeficiente> using Monomios = std::vector<Monomio<Coeficiente>>;
 
 // Up to here every whole number is a Double.
 inline constexpr double MáximoEnteroExacto = 9007199254740992;
@@ -64,8 +63,21 @@ inline void CompruebaCantidad(std::size_t términos) {
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
 }
 
+// The greatest common divisor of the coefficients and `inicial`, never negative. `coeficiente`
+// finds the coefficient in an element of the list.
+template <typename Lista, typename Coeficiente = std::identity>
+Entero DevContenido(const Lista& lista, Coeficiente coeficiente = {}, Entero inicial = 0) {
+    for (const auto& elemento : lista)
+        if (!inicial.EsUno())
+            inicial = DevMCD(std::move(inicial), std::invoke(coeficiente, elemento));
+    return inicial;
+}
+inline Entero DevContenido(const Monomios<Entero>& monomios) {
+    return DevContenido(monomios, &Monomio<Entero>::coeficiente);
+}
+
 // Adds up neighbours of equal exponents in an ordered list.
-template <typename C> void Agrupa(TérminosPolinomio<C>& términos) {
+template <typename C> void Agrupa(Monomios<C>& términos) {
     std::size_t escritos = 0;
     for (std::size_t i = 0; i < términos.size(); ++i) {
         if (escritos > 0 && términos[escritos - 1].exponente == términos[i].exponente)
@@ -76,15 +88,15 @@ template <typename C> void Agrupa(TérminosPolinomio<C>& términos) {
     términos.erase(términos.begin() + static_cast<std::ptrdiff_t>(escritos), términos.end());
 }
 
-template <typename C> void Ordena(TérminosPolinomio<C>& términos) {
-    std::ranges::stable_sort(términos, std::ranges::greater{}, &TérminoPolinomio<C>::exponente);
+template <typename C> void Ordena(Monomios<C>& términos) {
+    std::ranges::stable_sort(términos, std::ranges::greater{}, &Monomio<C>::exponente);
 }
 
 // p * factorP + q * factorQ, one pass over both.
 template <typename C>
-TérminosPolinomio<C> Combina(const TérminosPolinomio<C>& p, const C& factorP,
-                             const TérminosPolinomio<C>& q, const C& factorQ) {
-    TérminosPolinomio<C> suma;
+Monomios<C> Combina(const Monomios<C>& p, const C& factorP, const Monomios<C>& q,
+                    const C& factorQ) {
+    Monomios<C> suma;
     suma.reserve(p.size() + q.size());
     auto i = p.begin();
     auto j = q.begin();
@@ -108,12 +120,11 @@ TérminosPolinomio<C> Combina(const TérminosPolinomio<C>& p, const C& factorP,
 
 // Calls `par(i, j)` for every pair, and the watcher now and then.
 template <typename C, typename Par>
-void RecorrePares(Contexto& contexto, const TérminosPolinomio<C>& p, const TérminosPolinomio<C>& q,
-                  Par par) {
+void RecorrePares(Contexto& contexto, const Monomios<C>& p, const Monomios<C>& q, Par par) {
     constexpr std::size_t ParesEntreAvisos = 4096;
     std::size_t pares = 0;
-    for (const TérminoPolinomio<C>& a : p) {
-        for (const TérminoPolinomio<C>& b : q) {
+    for (const Monomio<C>& a : p) {
+        for (const Monomio<C>& b : q) {
             par(a, b);
             if (++pares % ParesEntreAvisos == 0)
                 contexto.Vigila();
@@ -122,13 +133,12 @@ void RecorrePares(Contexto& contexto, const TérminosPolinomio<C>& p, const Tér
 }
 
 // Cells of a product whose exponents go in steps of one; 0 where they do not, or are too far apart.
-template <typename C>
-std::size_t DevCeldas(const TérminosPolinomio<C>& p, const TérminosPolinomio<C>& q) {
+template <typename C> std::size_t DevCeldas(const Monomios<C>& p, const Monomios<C>& q) {
     constexpr double MáximoCeldas = 262144;
     constexpr double CeldasPorPar = 8;
     const double base = q.back().exponente;
-    const auto conPasoUno = [](const TérminosPolinomio<C>& términos) {
-        return std::ranges::all_of(términos, [&](const TérminoPolinomio<C>& t) {
+    const auto conPasoUno = [](const Monomios<C>& términos) {
+        return std::ranges::all_of(términos, [&](const Monomio<C>& t) {
             return NoTieneDecimales(t.exponente - términos.back().exponente);
         });
     };
@@ -142,20 +152,18 @@ std::size_t DevCeldas(const TérminosPolinomio<C>& p, const TérminosPolinomio<C
 }
 
 template <typename C>
-TérminosPolinomio<C> Multiplica(Contexto& contexto, const TérminosPolinomio<C>& p,
-                                const TérminosPolinomio<C>& q) {
-    TérminosPolinomio<C> producto;
+Monomios<C> Multiplica(Contexto& contexto, const Monomios<C>& p, const Monomios<C>& q) {
+    Monomios<C> producto;
     if (p.empty() || q.empty())
         return producto;
     if (const std::size_t celdas = DevCeldas(p, q)) {
         std::vector<C> suma(celdas, C(0));
         const double baseP = p.back().exponente;
         const double baseQ = q.back().exponente;
-        RecorrePares(
-            contexto, p, q, [&](const TérminoPolinomio<C>& a, const TérminoPolinomio<C>& b) {
-                const double celda = (a.exponente - baseP) + (b.exponente - baseQ);
-                SumaProducto(suma[static_cast<std::size_t>(celda)], a.coeficiente, b.coeficiente);
-            });
+        RecorrePares(contexto, p, q, [&](const Monomio<C>& a, const Monomio<C>& b) {
+            const double celda = (a.exponente - baseP) + (b.exponente - baseQ);
+            SumaProducto(suma[static_cast<std::size_t>(celda)], a.coeficiente, b.coeficiente);
+        });
         for (std::size_t i = celdas; i-- > 0;)
             if (!EsNulo(suma[i]))
                 producto.push_back(
@@ -163,7 +171,7 @@ TérminosPolinomio<C> Multiplica(Contexto& contexto, const TérminosPolinomio<C>
         return producto;
     }
     std::unordered_map<double, std::size_t> lugares;
-    RecorrePares(contexto, p, q, [&](const TérminoPolinomio<C>& a, const TérminoPolinomio<C>& b) {
+    RecorrePares(contexto, p, q, [&](const Monomio<C>& a, const Monomio<C>& b) {
         const double exponente = SumaExponentes(a.exponente, b.exponente);
         const auto [lugar, nuevo] = lugares.try_emplace(exponente, producto.size());
         if (nuevo) {

@@ -34,6 +34,9 @@ TEST_F(Factorización, DaUnFactorPorCadaRaízDelIntervalo) {
         {"X^2-4", 3, 5, "X^2-4"},
         {"X^2-4", -2, 2, "(X+2)*(X-2)"},
         {"3*X^3-3*X^2+X-1", -10, 10, "(X-1)*(3*X^2+1)"},
+        {"3*X^3-2*X^2", -10, 10, "X*(X-.66666667)*(3*X)"},
+        {"9*X^2-6*X+1", -10, 10, "(X-.33333333)*(9*X-3)"},
+        {"7*X^3+14*X-2*X^2-4", -10, 10, "(X-.28571429)*(7*X^2+14)"},
         {"X^3-2", -10, 10, "(X-1.25992105)*(X^2+1.25992105*X+1.58740105)"},
         {"X^2-2", -10, 10, "(X+1.41421356)*(X-1.41421356)"},
         {"X^2-2*X+1", -10, 10, "(X-1)*(X-1)"},
@@ -62,7 +65,7 @@ TEST_F(Factorización, UnaRaízRepetidaSeHallaUnaSolaVez) {
 TEST_F(Factorización, SiempreTermina) {
     // Few digits: the rounded root stands far from the root; a step that is nearly nothing.
     banco.contexto.DígitosRedondeo = 0;
-    EXPECT_EQ(Factoriza("4*X^2-1"), "4*(X+1)*X"); // what stands just below -.5 and .5, rounded
+    EXPECT_EQ(Factoriza("4*X^2-1"), "4*(X+1)*(X-1)"); // -.5 and .5, rounded
     banco.contexto.DígitosRedondeo = 8;
     EXPECT_EQ(Factoriza("X^2-1", 1 - 1e-13, 1 + 1e-13), "(X-1)*(X+1)");
     EXPECT_EQ(Factoriza("X-1E+17", 0, 2e17), "(X-1E+17)");

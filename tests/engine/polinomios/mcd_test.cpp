@@ -21,7 +21,7 @@ protected:
     }
     // With whole coefficients up to `máximo` and a leading one that is not 0.
     Polinomio DevAleatorio(int grado, int máximo) {
-        TérminosPolinomio<double> términos;
+        Monomios<double> términos;
         const auto uno = [&] {
             return static_cast<double>(azar() % static_cast<std::uint64_t>(2 * máximo + 1)) -
                    máximo;
@@ -105,7 +105,7 @@ TEST_F(MCDDePolinomios, ElFactorComúnEsPrimitivoYPositivo) {
         {"5", "X", "1"},
     };
     for (const auto& caso : casos)
-        EXPECT_EQ(Escribe(DevFactorComún(banco.contexto, Lee(caso.p), Lee(caso.q))), caso.común)
+        EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, Lee(caso.p), Lee(caso.q))), caso.común)
             << caso.p << " , " << caso.q;
 }
 
@@ -116,12 +116,12 @@ TEST_F(MCDDePolinomios, NuncaPierdeUnFactorComún) {
         const Polinomio b = DevAleatorio(i % 5, 1000);
         const Polinomio p = Por(a, común);
         const Polinomio q = Por(b, común);
-        const Polinomio mcd = DevFactorComún(banco.contexto, p, q);
+        const Polinomio mcd = MCDPrimitivo(banco.contexto, p, q);
         EXPECT_TRUE(DivideSiExacta(banco.contexto, mcd, común)) << i;
         const auto restoP = DivideSiExacta(banco.contexto, p, mcd);
         const auto restoQ = DivideSiExacta(banco.contexto, q, mcd);
         ASSERT_TRUE(restoP && restoQ) << i;
-        EXPECT_TRUE(EsConstante(DevFactorComún(banco.contexto, *restoP, *restoQ))) << i;
+        EXPECT_TRUE(EsConstante(MCDPrimitivo(banco.contexto, *restoP, *restoQ))) << i;
         EXPECT_TRUE(SonAsociados(MCDPolinomios(banco.contexto, p, q), mcd)) << i;
         EXPECT_TRUE(SonAsociados(MCDPolinomios(banco.contexto, q, p), mcd)) << i;
     }
@@ -134,7 +134,7 @@ TEST_F(MCDDePolinomios, LosCoeficientesDeMuchasPalabrasTambién) {
         común = Por(común, DevAleatorio(4, 900000000));
     const Polinomio p = Por(común, DevAleatorio(5, 900000000));
     const Polinomio q = Por(común, DevAleatorio(5, 900000000));
-    const Polinomio mcd = DevFactorComún(banco.contexto, p, q);
+    const Polinomio mcd = MCDPrimitivo(banco.contexto, p, q);
     EXPECT_EQ(DevGrado(mcd), 24);
     EXPECT_TRUE(SonAsociados(mcd, común));
 }
@@ -144,7 +144,7 @@ TEST_F(MCDDePolinomios, LasFraccionesSonExactas) {
     const Polinomio séptimo = DividePolinomios(banco.contexto, Lee("1"), Lee("7")).cociente;
     const Polinomio p = Por(Lee("X^2-X+1"), SumaPolinomios(Por(tercio, Lee("X")), séptimo));
     const Polinomio q = Por(Lee("X-5"), SumaPolinomios(Por(tercio, Lee("X")), séptimo));
-    EXPECT_EQ(Escribe(DevFactorComún(banco.contexto, p, q)), "7*X+3");
+    EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, p, q)), "7*X+3");
     EXPECT_EQ(Escribe(MCDPolinomios(banco.contexto, p, q)), "7*X+3");
 }
 
@@ -152,10 +152,10 @@ TEST_F(MCDDePolinomios, LosRealesSiguenLaCadenaRedondeada) {
     const Polinomio p = AReal(Lee("X^2-1"));
     const Polinomio q = AReal(Lee("X^2-3*X+2"));
     EXPECT_EQ(Escribe(MCDPolinomios(banco.contexto, p, q)), "3*X-3");
-    EXPECT_EQ(Escribe(DevFactorComún(banco.contexto, p, q)), "X-1");
+    EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, p, q)), "X-1");
     const Polinomio ruido = AReal(SumaPolinomios(p, Lee(".000000001*X")));
-    EXPECT_EQ(Escribe(DevFactorComún(banco.contexto, ruido, q)), "X-1");
-    EXPECT_EQ(Escribe(DevFactorComún(banco.contexto, p, AReal(Lee("X^2+X+7")))), "1");
+    EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, ruido, q)), "X-1");
+    EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, p, AReal(Lee("X^2+X+7")))), "1");
     EXPECT_EQ(Escribe(MCDPolinomios(banco.contexto, Lee("X^1.5-X^.5"), Lee("X^.5"))), "X^.5");
 }
 

@@ -52,7 +52,7 @@ TEST_F(Polinomios, LeeCadaTérminoConSuCoeficienteYSuExponente) {
         {"X^1E+20+X", {{1, 1e20}, {1, 1}}},
     };
     for (const auto& caso : casos) {
-        const TérminosPolinomio<double> leídos = LeePolinomio(caso.texto);
+        const Monomios<double> leídos = LeePolinomio(caso.texto);
         ASSERT_EQ(leídos.size(), caso.términos.size()) << caso.texto;
         for (std::size_t i = 0; i < leídos.size(); ++i) {
             EXPECT_EQ(leídos[i].coeficiente, caso.términos[i].first) << caso.texto;
@@ -181,8 +181,8 @@ TEST_F(Polinomios, LoQueSeSaleDelRangoEsUnDesbordamiento) {
 
 TEST_F(Polinomios, MásTérminosDeLosQueSeGuardanEsElError14) {
     // The exponents of the one are the digits that the other lacks: every product is another term.
-    TérminosPolinomio<double> bajos;
-    TérminosPolinomio<double> altos;
+    Monomios<double> bajos;
+    Monomios<double> altos;
     for (int i = 0; i < 300; ++i) {
         bajos.push_back({static_cast<double>(i * i), 1});
         altos.push_back({i * 1e6, 1});
@@ -197,7 +197,7 @@ TEST_F(Polinomios, MásTérminosDeLosQueSeGuardanEsElError14) {
 }
 
 TEST_F(Polinomios, ElVigilanteCortaUnProductoLargo) {
-    TérminosPolinomio<double> términos;
+    Monomios<double> términos;
     for (int i = 0; i < 5000; ++i)
         términos.push_back({static_cast<double>(i), 1});
     const Polinomio p = ReduceTérminos(banco.contexto, términos);
@@ -236,7 +236,7 @@ TEST_F(Polinomios, DivideConSuResto) {
 }
 
 Polinomio DevAleatorio(const Contexto& contexto, std::mt19937_64& azar, int grado, bool real) {
-    TérminosPolinomio<double> términos;
+    Monomios<double> términos;
     for (int e = 0; e <= grado; ++e)
         términos.push_back(
             {static_cast<double>(e),
