@@ -239,12 +239,18 @@ Polinomio MCDPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio&
         return q;
     if (EsCero(q))
         return p;
+    // A divisor that is constant, or the dividend itself, is the last one at once.
+    const Polinomio& divisor = DevGrado(p) < DevGrado(q) ? p : q;
+    if ((EsConstante(divisor) || p == q) && EsDeDecimales(contexto, divisor))
+        return divisor;
     if (const auto exactos = SiExactos(p, q))
         return MCDExacto(contexto, *exactos).DevÚltimoDivisor();
     return DevÚltimoDivisorRedondeado(contexto, p, q);
 }
 
 Polinomio MCDPrimitivo(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
+    if (EsConstante(p) || EsConstante(q))
+        return DevConstante(1);
     if (const auto exactos = SiExactos(p, q))
         return MCDExacto(contexto, *exactos).DevPrimitivo();
     const PolinomioReal común = AReal(MCDPolinomios(contexto, p, q));

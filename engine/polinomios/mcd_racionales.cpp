@@ -8,6 +8,10 @@
 namespace quiralto {
 namespace {
 
+Polinomio Positivo(Polinomio p) {
+    return SignoPrincipal(p) < 0 ? CambiaSigno(std::move(p)) : p;
+}
+
 // The greatest common divisor of two polynomials that are not 0, with the greatest number that
 // divides all coefficients where they are whole.
 Polinomio MCDConContenido(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
@@ -25,10 +29,12 @@ Polinomio MCDConContenido(Contexto& contexto, const Polinomio& p, const Polinomi
 Polinomio MCMPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
     if (EsCero(p) || EsCero(q))
         return DevConstante(0);
+    if (p == q)
+        return Positivo(p);
     const Polinomio común = MCDConContenido(contexto, p, q);
     Polinomio mcm =
         MultiplicaPolinomios(contexto, p, DividePolinomios(contexto, q, común).cociente);
-    return SignoPrincipal(mcm) < 0 ? CambiaSigno(std::move(mcm)) : mcm;
+    return Positivo(std::move(mcm));
 }
 
 using Reúne = Polinomio (*)(Contexto&, const Polinomio&, const Polinomio&);
@@ -52,10 +58,6 @@ Racional ReúneLista(Contexto& contexto, std::span<const Racional> funciones, Re
 
 Polinomio EnEnteros(const Polinomio& p) {
     return EsDeCoeficientesEnteros(p) ? p : DevPrimitivo(p);
-}
-
-Polinomio Positivo(Polinomio p) {
-    return SignoPrincipal(p) < 0 ? CambiaSigno(std::move(p)) : p;
 }
 
 } // namespace

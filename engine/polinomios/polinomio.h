@@ -31,6 +31,7 @@ inline constexpr std::size_t MáximoBitsExactos = 2048;
 struct PolinomioExacto {
     Monomios<Entero> términos;
     Entero denominador = 1;
+    bool operator==(const PolinomioExacto&) const = default;
 };
 using PolinomioReal = Monomios<double>;
 using Polinomio = std::variant<PolinomioExacto, PolinomioReal>;

@@ -183,6 +183,8 @@ Racional SimplificaRacional(Contexto& contexto, const Racional& r) {
         throw ErrorEjecución(DivisiónPorCero);
     if (EsCero(r.numerador))
         return {DevConstante(0)};
+    if (EsPolinomio(r) && SonExactos(r))
+        return r;
     Racional simple = r;
     if (const auto común = DevMónico(MCDPrimitivo(contexto, r.numerador, r.denominador));
         !EsUno(común))

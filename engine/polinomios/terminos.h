@@ -20,6 +20,7 @@ inline constexpr std::size_t MáximoTérminosPolinomio = 65536;
 template <typename Coeficiente, typename Exponente = double> struct Monomio {
     Exponente exponente;
     Coeficiente coeficiente;
+    bool operator==(const Monomio&) const = default;
 };
 template <typename Coeficiente> using Monomios = std::vector<Monomio<Coeficiente>>;
 
