@@ -1,9 +1,11 @@
 // Dense linear systems: reading, elimination and the whole command, beside Eigen's LU on the
 // numbers alone.
 
+#include "commands/ecuaciones.h"
 #include "commands/ordenes.h"
 #include "commands/sistemas.h"
 #include "engine/sistemas/ecuacion_lineal.h"
+#include "engine/sistemas/ecuacion_llana.h"
 #include "engine/sistemas/sistema_lineal.h"
 #include "tests/apoyo.h"
 
@@ -70,6 +72,14 @@ void Lectura(benchmark::State& estado) {
         benchmark::DoNotOptimize(Lee(pantalla.contexto, sistema));
 }
 
+void LecturaLlana(benchmark::State& estado) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+    Banco pantalla;
+    for (auto _ : estado)
+        for (const std::string_view línea : CortaLíneas(sistema.hoja))
+            benchmark::DoNotOptimize(LeeEcuaciónLlana(pantalla.contexto, línea));
+}
+
 void Eliminación(benchmark::State& estado) {
     const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
     Banco pantalla;
@@ -77,14 +87,15 @@ void Eliminación(benchmark::State& estado) {
     for (auto _ : estado) {
         SistemaLineal lineal(pantalla.contexto, ecuaciones);
         lineal.Elimina();
-        benchmark::DoNotOptimize(lineal.DevLíderes());
+        benchmark::DoNotOptimize(lineal.EsLiderSln(0));
     }
 }
 
 void Escritura(benchmark::State& estado) {
     const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
     Banco pantalla;
-    SistemaLineal lineal(pantalla.contexto, Lee(pantalla.contexto, sistema));
+    const std::vector<EcuaciónLineal> ecuaciones = Lee(pantalla.contexto, sistema);
+    SistemaLineal lineal(pantalla.contexto, ecuaciones);
     lineal.Elimina();
     for (auto _ : estado)
         benchmark::DoNotOptimize(ResolverSistemaLineal4(pantalla.contexto, lineal));
@@ -100,6 +111,7 @@ void LuDeEigen(benchmark::State& estado) {
 
 BENCHMARK(Orden_)->Name("la orden entera")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Lectura)->Name("lectura y desarrollo")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK(LecturaLlana)->Name("lectura llana")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Eliminación)->Name("eliminación")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Escritura)->Name("escritura")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(LuDeEigen)->Name("LU de Eigen, solo números")->RangeMultiplier(2)->Range(32, 256);

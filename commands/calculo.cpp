@@ -16,8 +16,8 @@ namespace {
 
 // The line y = pendiente*X + corte in the display form of polynomials.
 std::string TextoRecta(const Contexto& contexto, double pendiente, double corte) {
-    return EscribePolinomio(contexto, Monomios<double>{{1, CompruebaFinito(pendiente)},
-                                                                {0, CompruebaFinito(corte)}});
+    return EscribePolinomio(
+        contexto, Monomios<double>{{1, CompruebaFinito(pendiente)}, {0, CompruebaFinito(corte)}});
 }
 
 } // namespace

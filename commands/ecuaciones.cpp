@@ -1,7 +1,5 @@
 #include "commands/ecuaciones.h"
 
-#include <set>
-
 namespace quiralto {
 
 std::string Sustituye1(std::string_view texto) {
@@ -39,16 +37,6 @@ std::optional<Rechazo> CompruebaIgualdad(std::string_view texto) {
 
 bool IgualdadCorrecta(Contexto& contexto, std::string_view texto) {
     return Acepta(contexto, CompruebaIgualdad(texto));
-}
-
-std::size_t CuentaIncógnitas(std::string_view texto) {
-    constexpr std::string_view Prefijo = "SLN(";
-    std::set<std::string_view> índices;
-    for (std::size_t i = texto.find(Prefijo); i != texto.npos; i = texto.find(Prefijo, i)) {
-        i += Prefijo.size();
-        índices.insert(texto.substr(i, texto.find(')', i) - i));
-    }
-    return índices.size();
 }
 
 } // namespace quiralto

@@ -19,8 +19,4 @@ std::string SinBlancos(std::string_view línea);
 std::optional<Rechazo> CompruebaIgualdad(std::string_view texto);
 bool IgualdadCorrecta(Contexto& contexto, std::string_view texto);
 
-// How many unknowns SLN(i) the text of expressions names: the different texts between "SLN(" and
-// ")".
-std::size_t CuentaIncógnitas(std::string_view texto);
-
 } // namespace quiralto

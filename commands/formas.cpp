@@ -4,6 +4,7 @@
 #include "commands/letras.h"
 #include "engine/base/caracteres.h"
 #include "engine/evaluacion/validadores.h"
+#include "engine/lenguaje/operaciones.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
 
@@ -130,7 +131,7 @@ std::optional<RechazoDatos> LeeMultivariable(Contexto& contexto,
     if (líneas.size() != 1)
         return DeLaHoja(líneas.empty() ? Motivo::UsoMultivariable : Motivo::SobranLíneas);
     datos.función = SustituyeVariables(líneas.front());
-    const GuardaPrefijo prefijo(contexto, "SLN(");
+    const GuardaPrefijo prefijo(contexto, std::string(PrefijoSln));
     if (auto rechazo = CompruebaSintaxis(contexto, datos.función)) {
         rechazo->lugar = 0; // counted in a text with longer letters
         return EnLínea(*std::move(rechazo), 0);
@@ -171,7 +172,7 @@ std::optional<RechazoDatos> LeeEcuaciones(Contexto& contexto, std::span<const st
                                           DatosEcuaciones& datos) {
     if (líneas.empty())
         return DeLaHoja(Motivo::UsoSistema);
-    const GuardaPrefijo prefijo(contexto, "SLN(");
+    const GuardaPrefijo prefijo(contexto, std::string(PrefijoSln));
     for (std::size_t i = 0; i < líneas.size(); ++i) {
         contexto.Vigila();
         DatosEcuaciones::Una ecuación;
@@ -186,7 +187,7 @@ std::optional<RechazoDatos> LeeEcuaciones(Contexto& contexto, std::span<const st
 
 // Whether a letter stands in the text that neither is X nor belongs to a function's name.
 bool HayLetras(std::string_view texto) {
-    return SustituyeVariables(texto).find("SLN(") != std::string::npos;
+    return SustituyeVariables(texto).find(PrefijoSln) != std::string::npos;
 }
 
 std::optional<Forma> ReconoceUnaLínea(std::string_view línea) {

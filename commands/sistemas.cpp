@@ -1,45 +1,57 @@
 #include "commands/sistemas.h"
 
 #include "commands/formas.h"
+#include "engine/lenguaje/operaciones.h"
 #include "engine/lenguaje/sintaxis.h"
-#include "engine/numeros/numero.h"
+#include "engine/lenguaje/termino_texto.h"
 #include "engine/sistemas/ecuacion_lineal.h"
-#include "engine/sistemas/sistema_lineal.h"
+#include "engine/sistemas/ecuacion_llana.h"
 
-#include <algorithm>
 #include <optional>
 #include <vector>
 
 namespace quiralto {
 namespace {
 
-void EscribeTérmino(std::string& salida, double coeficiente, std::size_t índice, bool primero) {
-    if (coeficiente > 0 && !primero)
-        salida += '+';
-    if (coeficiente == -1)
-        salida += '-';
-    else if (coeficiente != 1)
-        (salida += TextoNúmero(coeficiente)) += '*';
-    ((salida += "SLN(") += std::to_string(índice)) += ')';
+// The equation of an instruction line; none where it was refused, which has been shown.
+std::optional<EcuaciónLineal> LeeEcuación(Contexto& contexto, Hoja& hoja, std::size_t línea) {
+    const std::string& texto = hoja.líneas[línea];
+    if (auto llana = LeeEcuaciónLlana(contexto, texto))
+        return llana;
+    Lectura lectura = LeeDatos(contexto, FormaEcuaciones, std::span(&texto, 1));
+    if (lectura.rechazo)
+        lectura.rechazo->línea = línea;
+    if (!Acepta(contexto, hoja, lectura.rechazo))
+        return std::nullopt;
+    const auto& [izquierda, derecha] = std::get<DatosEcuaciones>(lectura.datos).ecuaciones.front();
+    const GuardaPrefijo prefijo(contexto, std::string(PrefijoSln));
+    auto ecuación = LeeEcuaciónLineal(contexto, SimplificaSignos(izquierda + "-(" + derecha + ")"));
+    if (!ecuación)
+        SeleccionaLínea(hoja, texto);
+    return ecuación;
+}
+
+std::string TextoSln(std::size_t columna) {
+    return std::string(PrefijoSln) + std::to_string(columna + 1) + ')';
+}
+
+// The number as it is written: rounded, but not to 0 where it is none.
+double DevEscrito(const Coeficiente& valor, int dígitos) {
+    const double redondo = valor.Escrito(dígitos).ADouble();
+    return redondo == 0 && valor.EsExacto() ? valor.ADouble() : redondo;
 }
 
 // The unknown as its row gives it: the constant, then the free unknowns in ascending order.
 void EscribeSolución(std::string& salida, const SistemaLineal& sistema, std::size_t fila,
                      std::size_t líder, int dígitos) {
-    const double divisor = sistema.Elemento(fila, líder);
-    const double constante =
-        Redondea(CompruebaFinito(sistema.Independiente(fila) / divisor), dígitos);
     const std::size_t principio = salida.size();
-    if (constante != 0)
-        salida += TextoNúmero(constante);
-    for (std::size_t c = 0; c < sistema.Incógnitas(); ++c) {
-        const double elemento = c == líder ? 0 : sistema.Elemento(fila, c);
-        if (elemento == 0)
-            continue;
-        const double coeficiente = Redondea(CompruebaFinito(-elemento / divisor), dígitos);
-        if (coeficiente != 0)
-            EscribeTérmino(salida, coeficiente, c + 1, salida.size() == principio);
-    }
+    const std::size_t incógnitas = sistema.Incógnitas();
+    EscribeTérmino(salida, DevEscrito(sistema.Cociente(fila, incógnitas, líder), dígitos), "",
+                   principio);
+    for (std::size_t c = 0; c < incógnitas; ++c)
+        if (const Coeficiente cociente = sistema.Cociente(fila, c, líder);
+            c != líder && !cociente.EsCero())
+            EscribeTérmino(salida, DevEscrito(-cociente, dígitos), TextoSln(c), principio);
     if (salida.size() == principio)
         salida += '0';
 }
@@ -47,21 +59,26 @@ void EscribeSolución(std::string& salida, const SistemaLineal& sistema, std::si
 } // namespace
 
 void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
-    const GuardaPrefijo prefijo(contexto, "SLN(");
-    const Lectura lectura = LeeDatos(contexto, FormaEcuaciones, hoja.líneas);
     std::vector<EcuaciónLineal> ecuaciones;
-    // Those in front of a refused one may be refused themselves.
-    for (const auto& [izquierda, derecha] : std::get<DatosEcuaciones>(lectura.datos).ecuaciones) {
+    for (std::size_t i = 0; i < hoja.líneas.size(); ++i) {
         contexto.Vigila();
-        std::optional<EcuaciónLineal> ecuación =
-            LeeEcuaciónLineal(contexto, SimplificaSignos(izquierda + "-(" + derecha + ")"));
+        std::optional<EcuaciónLineal> ecuación = LeeEcuación(contexto, hoja, i);
         if (!ecuación)
-            return SeleccionaLínea(hoja, hoja.líneas[ecuaciones.size()]);
+            return;
         ecuaciones.push_back(std::move(*ecuación));
     }
-    if (!Acepta(contexto, hoja, lectura.rechazo))
-        return;
-    SistemaLineal sistema(contexto, ecuaciones);
+    if (ecuaciones.empty())
+        return MuestraRechazo(contexto, {.motivo = Motivo::UsoSistema});
+    SistemaLineal sistema = ResolverSistemaLineal2(contexto, ecuaciones);
+    ResolverSistemaLineal3(contexto, hoja, sistema);
+}
+
+SistemaLineal ResolverSistemaLineal2(Contexto& contexto,
+                                     std::span<const EcuaciónLineal> ecuaciones) {
+    return {contexto, ecuaciones};
+}
+
+void ResolverSistemaLineal3(Contexto& contexto, Hoja& hoja, SistemaLineal& sistema) {
     sistema.Elimina();
     std::size_t fila = 0;
     if (sistema.SistemaCompatibleSln(fila))
@@ -72,16 +89,14 @@ void ResolverSistemaLineal1(Contexto& contexto, Hoja& hoja) {
 }
 
 std::string ResolverSistemaLineal4(Contexto& contexto, const SistemaLineal& sistema) {
-    const auto líderes = sistema.DevLíderes();
     std::string salida = "\r\n\r\n'Soluciones halladas :\r\n";
     for (std::size_t j = sistema.Incógnitas(); j-- > 0;) {
         contexto.Vigila();
-        const std::string índice = std::to_string(j + 1);
-        salida += "\r\n'X(" + índice + ")=";
-        if (líderes[j])
-            EscribeSolución(salida, sistema, *líderes[j], j, contexto.DígitosRedondeo);
+        salida += "\r\n'X(" + std::to_string(j + 1) + ")=";
+        if (const auto fila = sistema.EsLiderSln(j))
+            EscribeSolución(salida, sistema, *fila, j, contexto.DígitosRedondeo);
         else
-            salida += "SLN(" + índice + ")";
+            salida += TextoSln(j);
     }
     salida += "\r\n";
     if (salida.find("SLN") != std::string::npos)

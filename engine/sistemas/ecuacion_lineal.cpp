@@ -1,8 +1,10 @@
 #include "engine/sistemas/ecuacion_lineal.h"
 
+#include "engine/base/rechazo.h"
 #include "engine/desarrollo/desarrollo.h"
 #include "engine/evaluacion/evalua.h"
 #include "engine/lenguaje/compila.h"
+#include "engine/lenguaje/operaciones.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
@@ -12,11 +14,8 @@
 namespace quiralto {
 namespace {
 
-constexpr std::string_view PrefijoSln = "SLN(";
-
 bool RechazaNoLineal(Contexto& contexto) {
-    contexto.Avisa("Se ha hallado una expresión que no "
-                   "es una ecuación lineal o esta no tiene solución");
+    MuestraRechazo(contexto, {.motivo = Motivo::NoEsEcuaciónLineal});
     return false;
 }
 
@@ -28,6 +27,15 @@ int DevIndiceSln(std::string_view base) {
     const double entero = std::nearbyint(leído.valor);
     const bool número = leído.longitud + 1 == índice.size();
     return número && entero >= 1 && entero <= MáximoÍndiceSln ? static_cast<int>(entero) : 0;
+}
+
+// What an expansion has computed as a number of at most 15 digits is that number.
+Coeficiente DevCoeficiente(double valor) {
+    return Val(TextoNúmero(valor)) == valor ? Coeficiente::DesdeDouble(valor)
+                                            : Coeficiente::Inexacto(valor);
+}
+[[maybe_unused]] const Coeficiente& DevCoeficiente(const Coeficiente& valor) {
+    return valor;
 }
 
 // Whether the base is one call of SLN and nothing else.
@@ -65,15 +73,14 @@ public:
         EcuaciónLineal ecuación;
         ecuación.independiente = independiente_;
         for (int i = 1; i <= MáximoÍndiceSln; ++i)
-            if (const double coeficiente = coeficientes_[static_cast<std::size_t>(i)];
-                coeficiente != 0)
-                ecuación.términos.push_back({i, coeficiente});
+            if (const auto& coeficiente = coeficientes_[static_cast<std::size_t>(i)])
+                ecuación.términos.push_back({i, *coeficiente});
         return ecuación;
     }
 
 private:
     bool LeeTérmino(const Término& término) {
-        double coeficiente = término.coeficiente;
+        Coeficiente coeficiente = DevCoeficiente(término.coeficiente);
         int índice = 0;
         for (const Factor& factor : término.literal) {
             const Base& base = tabla_.BaseDe(factor.símbolo);
@@ -90,13 +97,13 @@ private:
             const std::optional<double> valor = DevConstante(base);
             if (!valor)
                 return RechazaNoLineal(contexto_);
-            coeficiente = CompruebaFinito(coeficiente * *valor);
+            coeficiente *= Coeficiente::Inexacto(*valor);
         }
         if (índice == 0) {
-            independiente_ = CompruebaFinito(independiente_ - coeficiente);
+            independiente_ -= coeficiente;
         } else {
-            double& suma = coeficientes_[static_cast<std::size_t>(índice)];
-            suma = CompruebaFinito(suma + coeficiente);
+            std::optional<Coeficiente>& suma = coeficientes_[static_cast<std::size_t>(índice)];
+            suma = suma ? *suma + coeficiente : coeficiente;
             hayIncógnitas_ = true;
         }
         return true;
@@ -105,7 +112,7 @@ private:
     bool IndiceCorrectoSln(std::string_view base) {
         if (DevIndiceSln(base) != 0)
             return true;
-        contexto_.Avisa("El índice de una variable no está en el rango 1 a 256");
+        MuestraRechazo(contexto_, {.motivo = Motivo::ÍndiceFueraDeRango});
         return false;
     }
 
@@ -118,8 +125,8 @@ private:
 
     Contexto& contexto_;
     const TablaSímbolos& tabla_;
-    std::array<double, MáximoÍndiceSln + 1> coeficientes_{};
-    double independiente_ = 0;
+    std::array<std::optional<Coeficiente>, MáximoÍndiceSln + 1> coeficientes_{}; // of those met
+    Coeficiente independiente_;
     bool hayIncógnitas_ = false;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/base/contexto.h"
+#include "engine/numeros/coeficiente.h"
 
 #include <optional>
 #include <string_view>
@@ -14,19 +15,20 @@ inline constexpr int MáximoÍndiceSln = 256;
 // coeficiente * SLN(índice)
 struct TérminoSln {
     int índice; // 1 to MáximoÍndiceSln
-    double coeficiente;
+    Coeficiente coeficiente;
 };
 
-// The sum of the terms (each unknown once, none 0) is `independiente`.
+// The sum of the terms (each unknown once, in ascending order) is `independiente`. An unknown whose
+// terms have come to 0 in figures alone stays, with coefficient 0.
 struct EcuaciónLineal {
     std::vector<TérminoSln> términos;
-    double independiente = 0;
+    Coeficiente independiente;
 };
 
 // The equation expresión = 0, for a text that Sintaxis has accepted while it accepts "SLN(". Every
 // term of its expansion is a number, and constant functions to the first power, times at most one
-// unknown; at least one term has an unknown. Numbers are not rounded, but for the sums of like
-// terms. None: a message has been shown. Faults: those of the expansion.
+// unknown; at least one term has an unknown. Decimal numbers and their quotients stay exact. None:
+// a message has been shown. Faults: those of the expansion.
 std::optional<EcuaciónLineal> LeeEcuaciónLineal(Contexto& contexto, std::string_view expresión);
 
 } // namespace quiralto

@@ -1,42 +1,57 @@
 #include "engine/sistemas/sistema_lineal.h"
 
-#include "engine/numeros/numero.h"
+#include "engine/sistemas/matriz_exacta.h"
+#include "engine/sistemas/matriz_real.h"
 
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace quiralto {
+namespace {
+
+bool EsExacta(const EcuaciónLineal& ecuación) {
+    return ecuación.independiente.EsExacto() &&
+           std::ranges::all_of(ecuación.términos, [](const TérminoSln& término) {
+               return término.coeficiente.EsExacto();
+           });
+}
+
+} // namespace
 
 SistemaLineal::SistemaLineal(Contexto& contexto, std::span<const EcuaciónLineal> ecuaciones)
-    : contexto_(contexto), filas_(ecuaciones.size()), usadas_(ecuaciones.size(), false) {
-    for (const EcuaciónLineal& ecuación : ecuaciones)
-        for (const TérminoSln& término : ecuación.términos)
-            incógnitas_ = std::max(incógnitas_, static_cast<std::size_t>(término.índice));
-    ancho_ = incógnitas_ + 1;
-    elementos_.resize(filas_ * ancho_);
-    for (std::size_t i = 0; i < filas_; ++i) {
-        for (const TérminoSln& término : ecuaciones[i].términos)
-            Fila(i)[término.índice - 1] = término.coeficiente;
-        Fila(i)[incógnitas_] = ecuaciones[i].independiente;
-    }
+    : contexto_(contexto), ecuaciones_(ecuaciones), líderes_(DevIncógnitas(ecuaciones)) {
 }
 
-double SistemaLineal::Elemento(std::size_t fila, std::size_t columna) const {
-    const double elemento = elementos_[fila * ancho_ + columna];
-    return Redondea(elemento, contexto_.DígitosRedondeo) == 0 ? 0 : elemento;
-}
-
+// The elimination on Doubles comes first: it tells how long the exact numbers would be, so that an
+// exact one is not begun where it would be given up.
 void SistemaLineal::Elimina() {
-    for (std::size_t columna = 0; columna < incógnitas_; ++columna)
+    auto real = std::make_unique<MatrizReal>(contexto_, ecuaciones_);
+    const MatrizReal& pulso = *real;
+    if (!EliminaCon(std::move(real)) || !pulso.EsFinita())
+        throw ErrorEjecución(Desbordamiento);
+    if (pulso.DevBitsExactos() <= MatrizExacta::MáximosBits &&
+        std::ranges::all_of(ecuaciones_, EsExacta)) {
+        std::unique_ptr<MatrizSln> enReal = std::move(matriz_);
+        auto exacta = std::make_unique<MatrizExacta>(contexto_, ecuaciones_);
+        if (!exacta->Cabe() || !EliminaCon(std::move(exacta)))
+            matriz_ = std::move(enReal);
+    }
+    BuscaLíderes();
+}
+
+bool SistemaLineal::EliminaCon(std::unique_ptr<MatrizSln> matriz) {
+    matriz_ = std::move(matriz);
+    usadas_.assign(matriz_->Filas(), false);
+    for (std::size_t columna = 0; columna < matriz_->Incógnitas(); ++columna)
         if (const auto pivote = CoeficienteSln(columna))
-            TrasformarSln(columna, *pivote);
-    for (const double elemento : elementos_)
-        CompruebaFinito(elemento);
+            if (!TrasformarSln(columna, *pivote))
+                return false;
+    return true;
 }
 
 std::optional<std::size_t> SistemaLineal::CoeficienteSln(std::size_t columna) {
-    for (std::size_t fila = 0; fila < filas_; ++fila) {
-        if (usadas_[fila] || Elemento(fila, columna) == 0)
+    for (std::size_t fila = 0; fila < usadas_.size(); ++fila) {
+        if (usadas_[fila] || matriz_->EsNulo(fila, columna))
             continue;
         usadas_[fila] = true;
         return fila;
@@ -44,28 +59,13 @@ std::optional<std::size_t> SistemaLineal::CoeficienteSln(std::size_t columna) {
     return std::nullopt;
 }
 
-void SistemaLineal::TrasformarSln(std::size_t columna, std::size_t pivote) {
-    const double* const delPivote = Fila(pivote);
-    constexpr std::size_t EntreVigilias = 64;
-    for (std::size_t fila = 0; fila < filas_; ++fila) {
-        if (fila % EntreVigilias == 0)
-            contexto_.Vigila();
-        double* const suya = Fila(fila);
-        if (fila == pivote || suya[columna] == 0)
-            continue;
-        const double factor = CompruebaFinito(-suya[columna] / delPivote[columna]);
-        for (std::size_t c = 0; c < ancho_; ++c)
-            suya[c] = factor * delPivote[c] + suya[c];
-        suya[columna] = 0; // whatever rounding has left there
-    }
-}
-
 bool SistemaLineal::SistemaCompatibleSln(std::size_t& fila) const {
-    for (std::size_t i = 0; i < filas_; ++i) {
+    const std::size_t incógnitas = matriz_->Incógnitas();
+    for (std::size_t i = 0; i < matriz_->Filas(); ++i) {
         std::size_t c = 0;
-        while (c < incógnitas_ && Elemento(i, c) == 0)
+        while (c < incógnitas && matriz_->EsNulo(i, c))
             ++c;
-        if (c == incógnitas_ && Independiente(i) != 0) {
+        if (c == incógnitas && !matriz_->EsNulo(i, incógnitas)) {
             fila = i + 1;
             return false;
         }
@@ -73,16 +73,15 @@ bool SistemaLineal::SistemaCompatibleSln(std::size_t& fila) const {
     return true;
 }
 
-std::vector<std::optional<std::size_t>> SistemaLineal::DevLíderes() const {
-    std::vector<std::optional<std::size_t>> líderes(incógnitas_);
-    for (std::size_t fila = 0; fila < filas_; ++fila)
-        for (std::size_t c = 0; c < incógnitas_; ++c)
-            if (Elemento(fila, c) != 0) {
-                if (!líderes[c])
-                    líderes[c] = fila;
+void SistemaLineal::BuscaLíderes() {
+    std::ranges::fill(líderes_, std::nullopt);
+    for (std::size_t fila = 0; fila < matriz_->Filas(); ++fila)
+        for (std::size_t c = 0; c < matriz_->Incógnitas(); ++c)
+            if (!matriz_->EsNulo(fila, c)) {
+                if (!líderes_[c])
+                    líderes_[c] = fila;
                 break;
             }
-    return líderes;
 }
 
 } // namespace quiralto

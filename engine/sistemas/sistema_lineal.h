@@ -3,16 +3,19 @@
 
 #include "engine/base/contexto.h"
 #include "engine/sistemas/ecuacion_lineal.h"
+#include "engine/sistemas/matriz.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace quiralto {
 
-// Coefficients and, in the last column, the constant of each equation. An entry that rounds to 0
-// at DígitosRedondeo is 0.
+// The elimination is exact while all coefficients are exact and its numbers stay within
+// MatrizExacta::MáximosBits; otherwise the whole of it runs on Doubles. In either an entry that
+// rounds to 0 at DígitosRedondeo is 0 where a pivot or a contradiction is looked for.
 class SistemaLineal {
 public:
     // As many unknowns as the highest index that an equation has.
@@ -26,28 +29,30 @@ public:
     // first such row (from 1).
     bool SistemaCompatibleSln(std::size_t& fila) const;
 
-    // Once eliminated: for every unknown (from index 1) the row that leads with it, or none where
-    // it is free.
-    std::vector<std::optional<std::size_t>> DevLíderes() const;
+    // Once eliminated: the row that leads with the unknown (both from 0); none where it is free.
+    std::optional<std::size_t> EsLiderSln(std::size_t columna) const { return líderes_[columna]; }
 
-    std::size_t Incógnitas() const { return incógnitas_; }
+    std::size_t Incógnitas() const { return líderes_.size(); }
 
-    // Entries of a row from 0: columns 0 to Incógnitas() - 1, and the constant. An entry that
-    // rounds to 0 is given as 0.
-    double Elemento(std::size_t fila, std::size_t columna) const;
-    double Independiente(std::size_t fila) const { return Elemento(fila, incógnitas_); }
+    // Once eliminated: an entry of a row over that of the unknown with which it leads; column
+    // Incógnitas() is the constant. On Doubles an entry that rounds to 0 gives 0.
+    Coeficiente Cociente(std::size_t fila, std::size_t columna, std::size_t líder) const {
+        return matriz_->Cociente(fila, columna, líder);
+    }
 
 private:
-    double* Fila(std::size_t fila) { return elementos_.data() + fila * ancho_; }
+    bool EliminaCon(std::unique_ptr<MatrizSln> matriz);
     std::optional<std::size_t> CoeficienteSln(std::size_t columna);
-    void TrasformarSln(std::size_t columna, std::size_t pivote);
+    bool TrasformarSln(std::size_t columna, std::size_t pivote) {
+        return matriz_->Trasforma(columna, pivote);
+    }
+    void BuscaLíderes();
 
     Contexto& contexto_;
-    std::size_t filas_;
-    std::size_t incógnitas_ = 0;
-    std::size_t ancho_ = 0; // of a row
-    std::vector<double> elementos_;
+    std::span<const EcuaciónLineal> ecuaciones_; // of the constructor's caller
+    std::unique_ptr<MatrizSln> matriz_;
     std::vector<bool> usadas_;
+    std::vector<std::optional<std::size_t>> líderes_;
 };
 
 } // namespace quiralto

@@ -126,6 +126,39 @@ TEST(Sistemas, DeRangoMenorSeCumplenConCualquierValorDeLasLibres) {
     }
 }
 
+// A line that is plainly written and the same in parentheses go different ways to the same bytes.
+TEST(Sistemas, LoLlanoYLoGeneralEscribenLoMismo) {
+    constexpr std::uint64_t Semilla = 20305;
+    std::mt19937_64 azar(Semilla);
+    for (int vez = 0; vez < 300; ++vez) {
+        const std::size_t n = 1 + azar() % 5;
+        std::string llano;
+        std::string general;
+        for (std::size_t i = 0; i < n; ++i) {
+            std::string lado;
+            for (std::size_t k = 0; k < 1 + azar() % 6; ++k) {
+                lado += k == 0 ? "" : azar() % 2 == 0 ? "-" : "+";
+                lado += std::to_string(azar() % 100);
+                if (azar() % 2 == 0)
+                    lado += "." + std::to_string(125 * (1 + azar() % 7)); // sums of eighths
+                lado += azar() % 5 == 0 ? "" : "*X(" + std::to_string(1 + azar() % 4) + ")";
+            }
+            lado += "+X(" + std::to_string(1 + i) + ")";
+            const std::string otro =
+                std::to_string(azar() % 50) + "-X(" + std::to_string(1 + azar() % 4) + ")";
+            llano += (i == 0 ? "" : "\r\n") + lado + "=" + otro;
+            general += (i == 0 ? "" : "\r\n") + ("(" + lado + ")=(" + otro) + ")";
+        }
+        const auto resuelve = [](const std::string& texto) {
+            Banco banco;
+            Hoja hoja(texto);
+            EjecutaInstrucciones(banco.contexto, hoja, Texto);
+            return hoja.texto.substr(texto.size());
+        };
+        EXPECT_EQ(resuelve(llano), resuelve(general)) << llano << "\nseed " << Semilla;
+    }
+}
+
 TEST(Sistemas, DejanElPrefijoComoEstaba) {
     for (const char* texto : {"X(1)=1", "X(1)^2=1", "1/0*X(1)=1", "X(1)=1)"}) {
         Banco banco;

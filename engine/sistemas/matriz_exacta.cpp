@@ -1,0 +1,102 @@
+#include "engine/sistemas/matriz_exacta.h"
+
+#include "engine/numeros/numero.h"
+
+#include <algorithm>
+
+namespace quiralto {
+namespace {
+
+// Divides the numbers by what they all have in common, and returns it.
+Entero QuitaContenido(std::span<Entero> fila) {
+    Entero contenido;
+    for (const Entero& elemento : fila) {
+        if (!elemento.EsCero())
+            contenido = DevMCD(std::move(contenido), elemento);
+        if (contenido.EsUno())
+            return contenido;
+    }
+    if (contenido.EsCero())
+        return 1;
+    for (Entero& elemento : fila)
+        if (!elemento.EsCero())
+            elemento = Entero::Divide(elemento, contenido).cociente;
+    return contenido;
+}
+
+} // namespace
+
+MatrizExacta::MatrizExacta(Contexto& contexto, std::span<const EcuaciónLineal> ecuaciones)
+    : MatrizSln(contexto, ecuaciones.size(), DevIncógnitas(ecuaciones)),
+      elementos_(filas_ * ancho_), factor_(filas_) {
+    for (std::size_t fila = 0; fila < filas_; ++fila) {
+        contexto_.Vigila();
+        PonFila(fila, ecuaciones[fila]);
+    }
+}
+
+void MatrizExacta::PonFila(std::size_t fila, const EcuaciónLineal& ecuación) {
+    Entero escala = ecuación.independiente.Denominador();
+    for (const TérminoSln& término : ecuación.términos) {
+        const Entero denominador = término.coeficiente.Denominador();
+        escala *= Entero::Divide(denominador, DevMCD(escala, denominador)).cociente;
+    }
+    const auto entero = [&](const Coeficiente& c) {
+        return c.Numerador() * Entero::Divide(escala, c.Denominador()).cociente;
+    };
+    const std::span<Entero> suya(&elementos_[Lugar(fila, 0)], ancho_);
+    for (const TérminoSln& término : ecuación.términos)
+        suya[static_cast<std::size_t>(término.índice) - 1] = entero(término.coeficiente);
+    suya.back() = entero(ecuación.independiente);
+    const Entero contenido = QuitaContenido(suya);
+    factor_[fila] = Coeficiente(contenido, std::move(escala));
+}
+
+bool MatrizExacta::Cabe() const {
+    return std::ranges::all_of(elementos_, [](const Entero& e) { return e.Bits() <= MáximosBits; });
+}
+
+bool MatrizExacta::EsNulo(std::size_t fila, std::size_t columna) const {
+    const Entero& elemento = elementos_[Lugar(fila, columna)];
+    if (elemento.EsCero())
+        return true;
+    const Coeficiente valor = Coeficiente(elemento, 1) * factor_[fila];
+    return Redondea(valor.ADouble(), contexto_.DígitosRedondeo) == 0;
+}
+
+bool MatrizExacta::Trasforma(std::size_t columna, std::size_t pivote) {
+    for (std::size_t fila = 0; fila < filas_; ++fila) {
+        if (fila == pivote || elementos_[Lugar(fila, columna)].EsCero())
+            continue;
+        contexto_.Vigila();
+        if (!TrasformaFila(fila, columna, pivote))
+            return false;
+    }
+    return true;
+}
+
+// Row times the pivot minus the pivot's row times the entry, both without what they share; the row
+// has then been multiplied by the pivot, which its factor gives back.
+bool MatrizExacta::TrasformaFila(std::size_t fila, std::size_t columna, std::size_t pivote) {
+    const std::span<Entero> suya(&elementos_[Lugar(fila, 0)], ancho_);
+    const std::span<const Entero> delPivote(&elementos_[Lugar(pivote, 0)], ancho_);
+    const Entero común = DevMCD(suya[columna], delPivote[columna]);
+    const Entero porSuya = Entero::Divide(delPivote[columna], común).cociente;
+    const Entero porPivote = Entero::Divide(suya[columna], común).cociente;
+    for (std::size_t c = 0; c < ancho_; ++c) {
+        if (!suya[c].EsCero() && !porSuya.EsUno())
+            suya[c] *= porSuya;
+        if (!delPivote[c].EsCero())
+            suya[c].RestaProducto(porPivote, delPivote[c]);
+    }
+    const Entero contenido = QuitaContenido(suya);
+    factor_[fila] = factor_[fila] * Coeficiente(contenido, porSuya);
+    return std::ranges::all_of(suya, [](const Entero& e) { return e.Bits() <= MáximosBits; });
+}
+
+Coeficiente MatrizExacta::Cociente(std::size_t fila, std::size_t columna,
+                                   std::size_t divisor) const {
+    return {elementos_[Lugar(fila, columna)], elementos_[Lugar(fila, divisor)]};
+}
+
+} // namespace quiralto
