@@ -15,7 +15,8 @@ class Teclas : public testing::Test {
 protected:
     Teclas() {
         caja.show();
-        QApplication::setActiveWindow(&caja);
+        caja.activateWindow();
+        (void)QTest::qWaitForWindowActive(&caja);
         caja.setFocus();
     }
     // QTest's own knows ASCII alone.
@@ -84,7 +85,8 @@ TEST_F(Teclas, ElTabuladorMueveElFoco) {
     auto* hoja = new CajaHoja(&ventana);
     auto* otra = new QPlainTextEdit(&ventana);
     ventana.show();
-    QApplication::setActiveWindow(&ventana);
+    ventana.activateWindow();
+    (void)QTest::qWaitForWindowActive(&ventana);
     hoja->setFocus();
     QTest::keyClick(hoja, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), otra);

@@ -34,7 +34,7 @@ protected:
         formulario.Comienza();
         formulario.show();
         formulario.activateWindow();
-        QApplication::setActiveWindow(&formulario);
+        (void)QTest::qWaitForWindowActive(&formulario);
         txtSalida.setFocus();
     }
 
