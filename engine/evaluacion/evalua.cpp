@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
-#include <limits>
 
 namespace quiralto {
 namespace {
@@ -28,12 +27,14 @@ double EvalúaPrograma(Contexto& contexto, Programa& programa, double x) {
     for (const Instrucción& instrucción : programa.instrucciones) {
         const double izquierdo = registros[instrucción.izquierdo];
         const double derecho = registros[instrucción.derecho];
-        double& resultado = registros[instrucción.resultado];
-        resultado = Opera(instrucción.código, izquierdo, derecho, resultado, &contexto.generador);
+        double& registro = registros[instrucción.resultado];
+        const double resultado =
+            Opera(instrucción.código, izquierdo, derecho, registro, &contexto.generador);
         if (!std::isfinite(resultado)) [[unlikely]] {
             contexto.ErrorCódigo = DevFallo(instrucción.código, izquierdo, derecho, resultado);
-            return std::numeric_limits<double>::quiet_NaN();
+            break;
         }
+        registro = resultado;
     }
     return registros[programa.Resultado()];
 }

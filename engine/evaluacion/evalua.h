@@ -16,9 +16,10 @@
 
 namespace quiralto {
 
-// Runs the program at x and returns its value. A fault sets contexto.ErrorCódigo and the value
-// means nothing; a run without a fault leaves ErrorCódigo as it was. The registers keep what was
-// computed.
+// Runs the program at x and returns the register of the last instruction, its value. A fault sets
+// contexto.ErrorCódigo and ends the run: the registers keep what was computed, that of the faulting
+// instruction and those behind it what they had (0 in a new program). A run without a fault leaves
+// ErrorCódigo as it was.
 double EvalúaPrograma(Contexto& contexto, Programa& programa, double x);
 
 // The value at x, or none where there is a fault. Leaves ErrorCódigo clear.

@@ -131,6 +131,8 @@ void Derivador::DerivaTrozo(Trozo t) {
         if (const std::size_t p = último(Operación::Cociente); p != t.fin)
             return DerivaCociente(izquierda(p), derecha(p));
         if (f_[t.principio] == '-') {
+            if (!ContieneX(t) && t.fin - t.principio > 1)
+                return Pon("0");
             Pon("-");
             return Marca({t.principio + 1, t.fin, t.grupo});
         }
@@ -270,7 +272,7 @@ void Derivador::PonPlantilla(std::string_view plantilla, const Trozo& u) {
 } // namespace
 
 std::string Deriva(Contexto& contexto, std::string_view f, const ObservadorDeRondas& observa) {
-    const std::string texto = EncierraBasesConSigno(f);
+    const std::string texto = EncierraBases(f);
     return SimplificaSignos(ResuelveMarcas(Derivador(contexto, texto).Deriva(observa)));
 }
 

@@ -21,12 +21,13 @@ using ObservadorDeRondas = std::function<void(const std::string& texto)>;
 //   (u/v)' = (v*u'-u*v')/v^2          (u^v)' = (u^v*v'*LOG(u)+v*u^(v-1)*u')
 //
 // without the part that has no X in it; the chain rule stands before or behind each function's
-// derivative. A leading sign that these leave whole is the derivative's.
+// derivative. A leading sign that these leave whole is the derivative's; a text without X gives 0.
 //
-// The language takes a sign behind "*", "/" or "^" with its operand before any power ("3*-X^2" is
-// 3 times (-X)^2). A signed base there, in the input, and a derivative there that begins with a
-// signed power are put in parentheses, so that the derivative has the value it should; the one
-// exception is a chain a^b^c, which is split at its first "^".
+// The language takes a sign behind "*" or "/" with its operand before any power ("3*-X^2" is 3
+// times (-X)^2), and a chain a^b^c as (a^b)^c. In the input both are put in parentheses, and so is
+// a derivative behind "*", "/" or "^" that begins with a signed power; for a plain odd exponent the
+// sign makes no difference and stands as it is. So the derivative is that of the function that the
+// evaluator computes.
 //
 // Faults: run-time error 14 for a derivative past MáximoTexto or an input of more than two
 // million operators; 5 for a text that is not of the language.

@@ -94,7 +94,7 @@ inline Fallo FalloArcoseno(double, double b) {
 
 } // namespace filas
 
-inline constexpr std::array<DescripciónOperación, 16> TablaOperaciones = {{
+inline constexpr auto TablaOperaciones = std::to_array<DescripciónOperación>({
     {Operación::Suma, "+", Familia::Suma, 2, 5, [](double a, double b, Azar*) { return a + b; },
      filas::NoFalla, Oculta::Nada, "", "left + right"},
     {Operación::Resta, "-", Familia::Resta, 2, 4, [](double a, double b, Azar*) { return a - b; },
@@ -150,7 +150,7 @@ inline constexpr std::array<DescripciónOperación, 16> TablaOperaciones = {{
     {Operación::Sln, "SLN", Familia::Símbolo, 1, 11,
      [](double, double b, Azar* azar) { return DevSln(b, azar); }, filas::NoFalla, Oculta::Nada, "",
      "the argument; a random number in [0, 1) where it is 0"},
-}};
+});
 
 constexpr bool EstáCompleta(const DescripciónOperación& fila) {
     const bool esFunción = fila.familia == Familia::Función;

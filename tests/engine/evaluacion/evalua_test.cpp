@@ -139,6 +139,15 @@ TEST(EvalúaPrograma, LosRegistrosGuardanLoCalculadoHastaElFallo) {
     EXPECT_EQ(programa.registros[5], producto);
 }
 
+TEST(EvalúaPrograma, UnaInstrucciónQueFallaNoTocaSuRegistro) {
+    Banco banco;
+    Programa programa = CompilaExpresión("3+1/X");
+    EXPECT_EQ(EvalúaPrograma(banco.contexto, programa, 0), 0); // nothing has run yet
+    EXPECT_EQ(EvalúaPrograma(banco.contexto, programa, 4), 3.25);
+    EXPECT_EQ(EvalúaPrograma(banco.contexto, programa, 0), 3.25);
+    EXPECT_EQ(banco.contexto.ErrorCódigo, DivisiónPorCero);
+}
+
 TEST(EvalúaPrograma, CalculaLasFunciones) {
     const struct {
         const char* texto;

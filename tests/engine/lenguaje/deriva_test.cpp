@@ -102,7 +102,7 @@ TEST(Deriva, SeparaDondeDebe) {
         {"5-3-X", "-1"},
         {"X/2/X", "(X*2*1/2^2-X/2*1)/X^2"},
         {"2*X*3", "2*3*1"},
-        {"X^2^3", "2^3*X^(2^3-1)*1"},
+        {"X^2^3", "3*(X^2)^(3-1)*2*X^(2-1)*1"},
         {"1+2*X+X^2", "(2*1+2*X^(2-1)*1)"},
         {"1-X+X^2", "(-1+2*X^(2-1)*1)"},
         {"(X+1)*(X-2)", "((X+1)*1+(X-2)*1)"},
@@ -124,7 +124,9 @@ TEST(Deriva, SeparaDondeDebe) {
 TEST(Deriva, ElSignoDelantero) {
     const Fila filas[] = {
         {"-X", "-1"},
-        {"-5", "-0"},
+        {"-5", "0"},
+        {"-SIN(3)", "0"},
+        {"-(2-7)", "0"},
         {"-X^2", "-2*X^(2-1)*1"},
         {"-(X*X)", "-(X*1+X*1)"},
         {"-(-X)", "1"},
@@ -152,8 +154,35 @@ TEST(Deriva, EncierraLasPotenciasConSigno) {
         {"X*COS(2^X)", "(X*(-2^X*1*LOG(2)*SIN(2^X))+COS(2^X)*1)"},
         {"3*(5-2^X)", "3*(-2^X*1*LOG(2))"},
         {"3*(-X^2)", "3*-2*X^(2-1)*1"},
-        {"X*(-2^3*X)", "(X*(-2^3*1)+(-2^3*X)*1)"},
-        {"SIN(X)*-EXP(X)^3", "(SIN(X)*3*(-EXP(X))^(3-1)*-1*EXP(X)+(-EXP(X))^3*1*COS(X))"},
+        {"X*(-2^3*X)", "(X*-2^3*1+(-2^3*X)*1)"},
+        {"X*(-2^4*X)", "(X*(-2^4*1)+(-2^4*X)*1)"},
+        {"SIN(X)*-EXP(X)^4", "(SIN(X)*4*(-EXP(X))^(4-1)*-1*EXP(X)+(-EXP(X))^4*1*COS(X))"},
+        {"3*-X^2.5", "3*2.5*(-X)^(2.5-1)*-1"},
+        {"3*-X^(3)", "3*(3)*(-X)^((3)-1)*-1"},
+        // An odd exponent gives the same with and without them.
+        {"3*-X^3", "3*-3*X^(3-1)*1"},
+        {"X*-2^3", "-2^3*1"},
+        {"SIN(X)*-EXP(X)^3", "(SIN(X)*-3*EXP(X)^(3-1)*1*EXP(X)-EXP(X)^3*1*COS(X))"},
+    };
+    for (const Fila& fila : filas)
+        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+}
+
+TEST(Deriva, EncierraLasCadenasDePotencias) {
+    const Fila filas[] = {
+        {"2^X^3", "3*(2^X)^(3-1)*2^X*1*LOG(2)"},
+        {"X^2^3^4", "4*((X^2)^3)^(4-1)*3*(X^2)^(3-1)*2*X^(2-1)*1"},
+        {"X^-2^3", "3*(X^-2)^(3-1)*-2*X^(-2-1)*1"},
+        {"3*-X^2^3", "3*3*((-X)^2)^(3-1)*2*(-X)^(2-1)*-1"},
+        {"3*-X^3^2", "3*2*((-X)^3)^(2-1)*3*(-X)^(3-1)*-1"},
+        {"-X^2^3", "-3*(X^2)^(3-1)*2*X^(2-1)*1"},
+        {"1-X^2^3", "-3*(X^2)^(3-1)*2*X^(2-1)*1"},
+        {"SIN(X)^2^3", "3*(SIN(X)^2)^(3-1)*2*SIN(X)^(2-1)*1*COS(X)"},
+        {"(X^2)^3", "3*(X^2)^(3-1)*2*X^(2-1)*1"},
+        {"1E+05^2^X", "(1E+05^2)^X*1*LOG((1E+05^2))"},
+        // What the rules write is no input of theirs.
+        {"5/X^2", "-5*2*X^(2-1)*1/X^2^2"},
+        {"X/3^X", "(3^X*1-X*3^X*1*LOG(3))/3^X^2"},
     };
     for (const Fila& fila : filas)
         EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
@@ -198,7 +227,7 @@ TEST(Deriva, EscribeLoQueLaReescrituraDePiezasMarcadas) {
     std::size_t comparados = 0;
     std::size_t distintos = 0;
     const auto comprueba = [&](const std::string& texto) {
-        if (TienePotenciaConSigno(texto) || distintos > 5)
+        if (TienePotenciaConSigno(texto) || TieneCadenaDePotencias(texto) || distintos > 5)
             return;
         const std::string esperada = DerivadorIngenuo::Deriva(texto);
         if (TienePotenciaConSigno(esperada))
@@ -223,7 +252,6 @@ TEST(Deriva, EscribeLoQueLaReescrituraDePiezasMarcadas) {
 Generador GeneradorSuave(std::uint64_t semilla) {
     Generador generador(semilla);
     generador.números = {"1", "2", "3", "4", ".5", "2.5", "7", "10", ".25"};
-    generador.conCadenasDePotencias = false;
     return generador;
 }
 
@@ -256,8 +284,7 @@ TEST(Deriva, TieneElValorDeLaDerivadaEnCadaTextoCorto) {
     Banco banco;
     std::size_t comparados = 0;
     const auto comprueba = [&](const std::string& texto) {
-        // A chain is split at its first "^", although its value is (a^b)^c.
-        if (TieneCadenaDePotencias(texto) || testing::Test::HasFailure())
+        if (testing::Test::HasFailure())
             return;
         const std::string derivada = Deriva(banco.contexto, texto);
         for (const double x : {0.6875, -1.3125, 2.4375})
@@ -321,7 +348,11 @@ TEST(Deriva, ConcuerdaConElCocienteDeDiferencias) {
                                     "SIN(COS(TAN(ATN(X))))",
                                     "-X^3/-X^2*-X^2",
                                     "X*(-2^2*X)",
-                                    "7/(3-2^X)"}) {
+                                    "7/(3-2^X)",
+                                    "X^2^3",
+                                    "2^X^.5/X",
+                                    "X*-X^2^3",
+                                    "(X+1)/X^2^X"}) {
         Programa f = CompilaExpresión(texto);
         Programa derivada = CompilaExpresión(Deriva(banco.contexto, texto));
         int comparados = 0;
@@ -345,16 +376,42 @@ TEST(Deriva, ConcuerdaConElCocienteDeDiferencias) {
 
 TEST(Deriva, LaSegundaDerivadaEsLaDerivadaDeLaPrimera) {
     Banco banco;
-    for (const char* texto :
-         {"X^5-3*X^4+2*X^3-X^2+X-7", "EXP(-X^2/2)", "SIN(X)*COS(X)", "X^X", "X^-3", "2^-X",
-          "3*-X^2", "X*COS(2^X)", "LOG(X)", "ATN(X)", "TAN(X)", "SQR(X)", "SEC(X)", "COSEC(X)",
-          "ARCSIN(X/4)", "1/X", "X/(X+3)", "-X^3*-SIN(X)", "EXP(-2^X)"}) {
+    for (const char* texto : {"X^5-3*X^4+2*X^3-X^2+X-7",
+                              "EXP(-X^2/2)",
+                              "SIN(X)*COS(X)",
+                              "X^X",
+                              "X^-3",
+                              "2^-X",
+                              "3*-X^2",
+                              "X*COS(2^X)",
+                              "LOG(X)",
+                              "ATN(X)",
+                              "TAN(X)",
+                              "SQR(X)",
+                              "SEC(X)",
+                              "COSEC(X)",
+                              "ARCSIN(X/4)",
+                              "1/X",
+                              "X/(X+3)",
+                              "-X^3*-SIN(X)",
+                              "EXP(-2^X)",
+                              "1/X^3",
+                              "X+4/X^3",
+                              "X/2^X",
+                              "(X+1)/X^2^3",
+                              "SIN(X)/-X^3",
+                              "X/-X^2",
+                              "1/(X^2+1)^3",
+                              "X^-2/X^.5",
+                              "2/EXP(X)^2",
+                              "TAN(X)/X^5",
+                              "X^3/X^X"}) {
         const std::string primera = Deriva(banco.contexto, texto);
         const std::string segunda = Deriva(banco.contexto, primera);
         int comparados = 0;
         for (const double x : {0.375, 0.8125, 1.3125, 1.875, 2.4375})
             comparados += CompruebaValor(banco.contexto, primera, segunda, x) ? 1 : 0;
-        EXPECT_EQ(comparados, 5) << texto;
+        EXPECT_GE(comparados, 3) << texto; // some pass through values too large to compare
     }
     const struct {
         const char* texto;
@@ -376,6 +433,44 @@ TEST(Deriva, LaSegundaDerivadaEsLaDerivadaDeLaPrimera) {
         EXPECT_NEAR(EvalúaPrograma(banco.contexto, programa, caso.x), caso.segunda, 1e-12)
             << caso.texto;
     }
+}
+
+// Random quotients with powers in their denominators: where a second difference of f settles, the
+// second derivative has its value.
+TEST(Deriva, LaSegundaDeUnCocienteConPotenciasEsLaDeSusDiferencias) {
+    constexpr int Semilla = 13;
+    Banco banco;
+    Generador generador = GeneradorSuave(Semilla);
+    generador.funciones = {"SIN", "COS", "EXP", "ATN"};
+    int comparados = 0;
+    for (int i = 0; i < 1500 && !HasFailure(); ++i) {
+        const std::string texto =
+            generador.Expresión(1 + generador.Hasta(3)) + '/' +
+            generador.Elige(std::vector<std::string>{"X", "-X", "2", "(X^2+1)", "EXP(X)"}) + '^' +
+            generador.Elige(std::vector<std::string>{"2", "3", "-2", ".5", "X", "2^2", "(X-1)"});
+        Programa f = CompilaExpresión(texto);
+        Programa segunda = CompilaExpresión(Deriva(banco.contexto, Deriva(banco.contexto, texto)));
+        const double x = generador.Real(.5, 3);
+        const auto diferencia = [&](double h) -> std::optional<double> {
+            const auto antes = ValorEn(banco.contexto, f, x - h);
+            const auto aquí = ValorEn(banco.contexto, f, x);
+            const auto después = ValorEn(banco.contexto, f, x + h);
+            if (!antes || !aquí || !después || std::fabs(*aquí) > 1e3)
+                return std::nullopt;
+            return (*antes - 2 * *aquí + *después) / (h * h);
+        };
+        const auto gruesa = diferencia(0x1p-9);
+        const auto fina = diferencia(0x1p-10);
+        if (!gruesa || !fina || std::fabs(*gruesa - *fina) > 1e-3 * (1 + std::fabs(*fina)))
+            continue;
+        const auto valor = ValorEn(banco.contexto, segunda, x);
+        if (!valor)
+            continue; // a part of it may overflow or divide by zero where f does not
+        EXPECT_NEAR(*valor, *fina, 2e-3 * (1 + std::fabs(*fina)))
+            << texto << " X=" << x << " seed " << Semilla;
+        ++comparados;
+    }
+    EXPECT_GT(comparados, 500);
 }
 
 TEST(Deriva, SusResultadosSonDelLenguaje) {

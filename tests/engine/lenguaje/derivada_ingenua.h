@@ -65,7 +65,7 @@ private:
         if (const auto p = Fuera(t, '/'); !p.empty())
             return con(p.back(), Cociente);
         if (t.front() == '-')
-            return "-" + Marca(t.substr(1));
+            return ContieneX(t) ? "-" + Marca(t.substr(1)) : "0";
         if (const auto p = Fuera(t, '^'); !p.empty())
             return con(p.front(), Potencia);
         if (t.front() == '(' && t.back() == ')')
