@@ -7,8 +7,7 @@
 namespace quiralto {
 
 // The worker of the menu command: reads x1,y1,x2,y2,... and appends the interpolating polynomial; a
-// refused input appends nothing. Fault: run-time error 11 for two points with the same x; 6 for
-// more points than a program has registers for.
+// refused input appends nothing. Faults: those of DevPolinomioPorPuntos.
 void ResolverPolinomioLagrange(Contexto& contexto, Hoja& hoja);
 
 } // namespace quiralto
