@@ -3,7 +3,24 @@
 
 #include "engine/polinomios/polinomio.h"
 
+#include <utility>
+
 namespace quiralto {
+
+// Other rounding digits for as long as it lives: for steps on the way to a result, which do not
+// show.
+class GuardaDígitos {
+public:
+    GuardaDígitos(Contexto& contexto, int dígitos)
+        : contexto_(contexto), anteriores_(std::exchange(contexto.DígitosRedondeo, dígitos)) {}
+    ~GuardaDígitos() { contexto_.DígitosRedondeo = anteriores_; }
+    GuardaDígitos(const GuardaDígitos&) = delete;
+    GuardaDígitos& operator=(const GuardaDígitos&) = delete;
+
+private:
+    Contexto& contexto_;
+    int anteriores_;
+};
 
 struct División {
     Polinomio cociente;

@@ -221,13 +221,15 @@ bool DejaPocoResto(Contexto& contexto, const Polinomio& p, const Polinomio& divi
     return DevMayorCoeficiente(AReal(resto)) <= tolerancia * DevMayorCoeficiente(AReal(p));
 }
 
-// The quotient of the long division where what it leaves, rounded if it is real, is 0.
+// The quotient of the long division where nothing is left, or of real ones what rounding explains.
 std::optional<Polinomio> DivideSiNoSobra(Contexto& contexto, const Polinomio& dividendo,
                                          const Polinomio& divisor) {
+    constexpr double Ruido = 1e-12;
+    const GuardaDígitos guarda(contexto, MáximoDígitosRedondeo);
     auto [cociente, resto] = DividePolinomios(contexto, dividendo, divisor);
-    if (std::holds_alternative<PolinomioReal>(resto))
-        resto = RedondeaPolinomio(contexto, resto);
-    if (!EsCero(resto))
+    const bool esReal = std::holds_alternative<PolinomioReal>(resto);
+    if (!EsCero(resto) && !(esReal && DevMayorCoeficiente(AReal(resto)) <=
+                                          Ruido * DevMayorCoeficiente(AReal(dividendo))))
         return std::nullopt;
     return std::move(cociente);
 }

@@ -43,7 +43,7 @@ using Reúne = Polinomio (*)(Contexto&, const Polinomio&, const Polinomio&);
 Racional ReúneLista(Contexto& contexto, std::span<const Racional> funciones, Reúne numeradores,
                     Reúne denominadores) {
     const auto simplifica = [&](const Racional& función) {
-        Racional simple = SimplificaRacional(contexto, función);
+        Racional simple = ReduceRacional(contexto, función);
         return EsPolinomio(simple) ? simple : ConCoeficientesEnteros(std::move(simple));
     };
     Racional total = simplifica(funciones.front());

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 namespace quiralto {
@@ -68,22 +67,35 @@ bool SonExactos(const Racional& r) {
     return SiExacto(r.numerador) != nullptr && SiExacto(r.denominador) != nullptr;
 }
 
-// Times the least power of ten that leaves every term of the real denominator at least 1, but for
-// terms that are nothing beside the largest one.
-Racional ConDenominadorVisible(Contexto& contexto, Racional r) {
-    constexpr double Ruido = 1e-12;
-    const PolinomioReal denominador = AReal(r.denominador);
-    const auto absoluto = [](const Monomio<double>& t) { return std::fabs(t.coeficiente); };
-    const double mayor = std::ranges::max(denominador | std::views::transform(absoluto));
-    double menor = mayor;
-    for (const Monomio<double>& t : denominador)
-        if (absoluto(t) > Ruido * mayor)
-            menor = std::min(menor, absoluto(t));
+// Times the least power of ten that leaves every coefficient at least 1, where rounding would leave
+// nothing of one; of real ones.
+Racional ConTérminosVisibles(Contexto& contexto, Racional r) {
+    double menor = 1;
+    for (const Polinomio& lado : {r.numerador, r.denominador})
+        for (const Monomio<double>& t : AReal(lado))
+            menor = std::min(menor, std::fabs(t.coeficiente));
     if (Redondea(menor, contexto.DígitosRedondeo) != 0)
         return r;
     const auto ceros = static_cast<int>(std::ceil(-std::log10(menor)));
     const Polinomio escala = DevExacto({{0, DevPotenciaDeDiez(ceros)}}, 1);
     return {Por(contexto, r.numerador, escala), Por(contexto, r.denominador, escala)};
+}
+
+// Both divided by their gcd. That of real ones is looked for with enough digits for the quotients,
+// whatever they are rounded to in the end.
+Racional DivideEntreMCD(Contexto& contexto, const Racional& r) {
+    constexpr int DígitosDeSobra = 10;
+    const int buscados = std::max(contexto.DígitosRedondeo, DígitosDeSobra);
+    Polinomio común;
+    {
+        const GuardaDígitos guarda(contexto, buscados);
+        común = DevMónico(MCDPrimitivo(contexto, r.numerador, r.denominador));
+    }
+    if (EsUno(común))
+        return r;
+    const GuardaDígitos guarda(contexto, MáximoDígitosRedondeo);
+    return {DividePolinomios(contexto, r.numerador, común).cociente,
+            DividePolinomios(contexto, r.denominador, común).cociente};
 }
 
 } // namespace
@@ -172,27 +184,27 @@ Racional ConCoeficientesLegibles(Contexto& contexto, Racional r) {
     if (EsPolinomio(r))
         return r;
     if (!SonExactos(r))
-        return ConDenominadorVisible(contexto, std::move(r));
+        return ConTérminosVisibles(contexto, std::move(r));
     if (EsDeDecimales(contexto, r.numerador) && EsDeDecimales(contexto, r.denominador))
         return r;
     return ConCoeficientesEnteros(std::move(r));
 }
 
-Racional SimplificaRacional(Contexto& contexto, const Racional& r) {
+Racional ReduceRacional(Contexto& contexto, const Racional& r) {
     if (EsCero(r.denominador))
         throw ErrorEjecución(DivisiónPorCero);
     if (EsCero(r.numerador))
         return {DevConstante(0)};
-    if (EsPolinomio(r) && SonExactos(r))
+    if (EsPolinomio(r))
         return r;
-    Racional simple = r;
-    if (const auto común = DevMónico(MCDPrimitivo(contexto, r.numerador, r.denominador));
-        !EsUno(común))
-        simple = {DividePolinomios(contexto, r.numerador, común).cociente,
-                  DividePolinomios(contexto, r.denominador, común).cociente};
-    if (EsConstante(simple.denominador))
-        simple = {DividePolinomios(contexto, simple.numerador, simple.denominador).cociente};
-    simple = ConCoeficientesLegibles(contexto, std::move(simple));
+    Racional reducida = DivideEntreMCD(contexto, r);
+    if (EsConstante(reducida.denominador))
+        return {DividePolinomios(contexto, reducida.numerador, reducida.denominador).cociente};
+    return reducida;
+}
+
+Racional SimplificaRacional(Contexto& contexto, const Racional& r) {
+    Racional simple = ConCoeficientesLegibles(contexto, ReduceRacional(contexto, r));
     if (!SonExactos(simple))
         simple = {RedondeaPolinomio(contexto, simple.numerador),
                   RedondeaPolinomio(contexto, simple.denominador)};

@@ -50,10 +50,13 @@ Racional ConCoeficientesEnteros(Racional r);
 // 0.
 Racional ConCoeficientesLegibles(Contexto& contexto, Racional r);
 
-// The quotient in lowest terms: both divided by their gcd with a positive leading coefficient, and
-// by positive numbers, so that the signs stay. A constant denominator is divided into the numerator. The coefficients are
-// legible (above), and where all of them are whole they have no common factor. 0 is 0 over 1.
+// The quotient in lowest terms: both divided by their gcd with a positive leading coefficient, so
+// that the signs stay. A constant denominator is divided into the numerator. 0 is 0 over 1.
 // Fault: run-time error 11 for the denominator 0.
+Racional ReduceRacional(Contexto& contexto, const Racional& r);
+
+// The same as it is to be written: its coefficients legible (above), those of real ones rounded;
+// where all of them are whole they have no common factor.
 Racional SimplificaRacional(Contexto& contexto, const Racional& r);
 
 } // namespace quiralto

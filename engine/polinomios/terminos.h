@@ -59,6 +59,32 @@ inline void SumaProducto(Entero& suma, const Entero& a, const Entero& b) {
     suma.SumaProducto(a, b);
 }
 
+// A sum of products. One of Doubles that is nothing beside what was added up has cancelled but for
+// rounding, and is 0.
+template <typename C> class Acumulado {
+public:
+    void Añade(const C& a, const C& b) { SumaProducto(suma_, a, b); }
+    C Toma() { return std::move(suma_); }
+
+private:
+    C suma_ = 0;
+};
+template <> class Acumulado<double> {
+public:
+    void Añade(double a, double b) {
+        suma_ += a * b;
+        magnitud_ += std::fabs(a * b);
+    }
+    double Toma() const {
+        constexpr double Ruido = 0x1p-46;
+        return std::fabs(suma_) < Ruido * magnitud_ && std::isfinite(magnitud_) ? 0 : suma_;
+    }
+
+private:
+    double suma_ = 0;
+    double magnitud_ = 0;
+};
+
 inline void CompruebaCantidad(std::size_t términos) {
     if (términos > MáximoTérminosPolinomio)
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
@@ -109,9 +135,10 @@ Monomios<C> Combina(const Monomios<C>& p, const C& factorP, const Monomios<C>& q
             suma.push_back({j->exponente, j->coeficiente * factorQ});
             ++j;
         } else {
-            C coeficiente = i->coeficiente * factorP;
-            SumaProducto(coeficiente, j->coeficiente, factorQ);
-            suma.push_back({i->exponente, std::move(coeficiente)});
+            Acumulado<C> coeficiente;
+            coeficiente.Añade(i->coeficiente, factorP);
+            coeficiente.Añade(j->coeficiente, factorQ);
+            suma.push_back({i->exponente, coeficiente.Toma()});
             ++i;
             ++j;
         }
@@ -158,29 +185,28 @@ Monomios<C> Multiplica(Contexto& contexto, const Monomios<C>& p, const Monomios<
     if (p.empty() || q.empty())
         return producto;
     if (const std::size_t celdas = DevCeldas(p, q)) {
-        std::vector<C> suma(celdas, C(0));
+        std::vector<Acumulado<C>> suma(celdas);
         const double baseP = p.back().exponente;
         const double baseQ = q.back().exponente;
         RecorrePares(contexto, p, q, [&](const Monomio<C>& a, const Monomio<C>& b) {
             const double celda = (a.exponente - baseP) + (b.exponente - baseQ);
-            SumaProducto(suma[static_cast<std::size_t>(celda)], a.coeficiente, b.coeficiente);
+            suma[static_cast<std::size_t>(celda)].Añade(a.coeficiente, b.coeficiente);
         });
         for (std::size_t i = celdas; i-- > 0;)
-            if (!EsNulo(suma[i]))
+            if (C coeficiente = suma[i].Toma(); !EsNulo(coeficiente))
                 producto.push_back(
-                    {SumaExponentes(baseP, baseQ, static_cast<double>(i)), std::move(suma[i])});
+                    {SumaExponentes(baseP, baseQ, static_cast<double>(i)), std::move(coeficiente)});
         return producto;
     }
-    std::unordered_map<double, std::size_t> lugares;
+    std::unordered_map<double, Acumulado<C>> sumas;
     RecorrePares(contexto, p, q, [&](const Monomio<C>& a, const Monomio<C>& b) {
-        const double exponente = SumaExponentes(a.exponente, b.exponente);
-        const auto [lugar, nuevo] = lugares.try_emplace(exponente, producto.size());
-        if (nuevo) {
-            CompruebaCantidad(producto.size());
-            producto.push_back({exponente, C(0)});
-        }
-        SumaProducto(producto[lugar->second].coeficiente, a.coeficiente, b.coeficiente);
+        sumas[SumaExponentes(a.exponente, b.exponente)].Añade(a.coeficiente, b.coeficiente);
+        CompruebaCantidad(sumas.size());
     });
+    producto.reserve(sumas.size());
+    for (auto& [exponente, suma] : sumas)
+        if (C coeficiente = suma.Toma(); !EsNulo(coeficiente))
+            producto.push_back({exponente, std::move(coeficiente)});
     Ordena(producto);
     return producto;
 }

@@ -282,6 +282,11 @@ TEST_F(FunciónRacional, SeSimplificaATérminosMínimos) {
         {"(X+1)/(X/1E10+1)", "(10000000000*X+10000000000)/(X+10000000000)"},
         {"(X/1E10+1)/(X+1)", "(X+10000000000)/(10000000000*X+10000000000)"},
         {"1E-10/(X+1)", "0"}, // the number itself is rounded
+        // The same of numbers that are not exact
+        {"1/(EXP(-30)*X)", "(100000000000000)/(9.35762297*X)"},
+        {"EXP(-30)/(X+1)", "(9.35762297)/(100000000000000*X+100000000000000)"},
+        {"1/(SIN(2)/1E10)", "10997501702.9462"},
+        {"X/(X*(SIN(2)^2+COS(2)^2-1)+1)", "X"}, // what is left over is rounding
         // The signs stay as they were typed; only a denominator that becomes -1 negates.
         {"1/(1-X)", "(1)/(-X+1)"},
         {"(X+1)/(-X)", "(X+1)/(-X)"},
@@ -305,6 +310,50 @@ TEST_F(FunciónRacional, SeSimplificaATérminosMínimos) {
     for (const auto& caso : casos)
         EXPECT_EQ(Simplifica(caso.f), caso.simple) << caso.f;
     EXPECT_TRUE(banco.TomaMensajes().empty());
+}
+
+TEST_F(FunciónRacional, ConPocasCifrasTampocoSePierdeUnDenominador) {
+    const struct {
+        int dígitos;
+        const char* f;
+        const char* simple;
+    } casos[] = {
+        {0, "1/(X/3)", "(3)/(X)"},
+        {0, "(X/3-1/3)/(X^2-1)", "(1)/(3*X+3)"},
+        {0, "X/(SIN(2)*X/10+1)", "(100*X)/(9*X+100)"},
+        {0, "1/(SIN(2)/10)", "11"},
+        {0, "(X^2+SIN(2)/3)/X", "(10*X^2+3)/(10*X)"},
+        {2, "(X-SQR(2))*(X-SQR(3))/((X-SQR(2))*(X+1))", "(X-1.73)/(X+1)"},
+        {0, "(X-SQR(2))*(X-SQR(3))/((X-SQR(2))*(X+1))", "(X-2)/(X+1)"},
+        {15, "X+4.3", "X+4.3"},
+        {15, "(X+.1)*(X+.2)/(X+4.3)", "(X^2+.3*X+.02)/(X+4.3)"},
+        {15, "(X-SQR(2))*(X-SQR(3))/((X-SQR(2))*(X+1))", "(X-1.73205080756888)/(X+1)"},
+    };
+    for (const auto& caso : casos) {
+        banco.contexto.DígitosRedondeo = caso.dígitos;
+        EXPECT_EQ(Simplifica(caso.f), caso.simple) << caso.f;
+    }
+}
+
+TEST_F(FunciónRacional, LoQueSóloNoSeAnulaPorElRedondeoEsCero) {
+    EXPECT_EQ(Evalúa("X/(SIN(2)^2+COS(2)^2-1)"), "");
+    EXPECT_EQ(banco.contexto.ErrorCódigo, DivisiónPorCero);
+    banco.TomaMensajes();
+    EXPECT_EQ(Evalúa("(X-SQR(2))*(X-SQR(3))*(X+SQR(2))*(X+SQR(3))-X^4-6"), "-5*X^2");
+}
+
+TEST_F(FunciónRacional, LosNúmerosSinValorExactoSeReconocenEnUnaLista) {
+    const auto lista = [&](std::vector<std::string> fórmulas) {
+        std::vector<Racional> funciones;
+        for (const std::string& f : fórmulas)
+            funciones.push_back(*EvalúaRacional(banco.contexto, CompilaExpresión(f)));
+        return funciones;
+    };
+    const auto una = lista({"SQR(2)*X-2", "X^2-2"});
+    EXPECT_EQ(Escribe(DevMCDRacionales(banco.contexto, una)), "1.41421356*X-2");
+    EXPECT_EQ(Escribe(DevMCMRacionales(banco.contexto, una)), "1.41421356*X^2-2.82842712");
+    const auto otra = lista({"SIN(2)*X", "X^2"});
+    EXPECT_EQ(Escribe(DevMCMRacionales(banco.contexto, otra)), ".90929743*X^2");
 }
 
 // A formula over X with few risks of leaving the range.
