@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <string>
 
 namespace quiralto {
@@ -100,12 +101,22 @@ void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden
     }
 }
 
+// Built in place: where memory is short, nothing may be asked for.
 void MensajeErrorGeneral(Contexto& contexto, int número) {
-    std::string texto = "Se produjo el error número :" + std::to_string(número);
-    (texto += ". Tipo de error :") += DescripciónError(número);
-    texto += ". Utilice valores diferentes para evitar este tipo de error. El proceso solicitado "
-             "se cancelará.";
-    contexto.mensajes.Muestra(Icono::Crítico, texto);
+    std::array<char, 512> búfer{};
+    char* fin = búfer.data();
+    const auto añade = [&](std::string_view pieza) {
+        fin =
+            std::copy_n(pieza.data(),
+                        std::min(pieza.size(), static_cast<std::size_t>(&búfer.back() - fin)), fin);
+    };
+    añade("Se produjo el error número :");
+    fin = std::to_chars(fin, &búfer.back(), número).ptr;
+    añade(". Tipo de error :");
+    añade(DescripciónError(número));
+    añade(". Utilice valores diferentes para evitar este tipo de error. El proceso solicitado se "
+          "cancelará.");
+    contexto.mensajes.Muestra(Icono::Crítico, {búfer.data(), fin});
 }
 
 } // namespace quiralto

@@ -33,7 +33,7 @@ std::span<const Orden> DevÓrdenes();
 // watcher, the worksheet is as it was.
 void EjecutaInstrucciones(Contexto& contexto, Hoja& hoja, std::string_view orden);
 
-// The message for an unexpected run-time error (critical icon).
+// The message for an unexpected run-time error (critical icon). Asks for no memory.
 void MensajeErrorGeneral(Contexto& contexto, int número);
 
 // The one place where run-time errors are caught: runs `trabajo`, shows MensajeErrorGeneral for an

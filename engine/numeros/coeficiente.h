@@ -38,10 +38,10 @@ public:
     Coeficiente(const Coeficiente& otro) { Copia(otro); }
     Coeficiente(Coeficiente&& otro) noexcept { Roba(otro); }
     Coeficiente& operator=(const Coeficiente& otro) {
-        if (this != &otro) {
-            Libera();
-            Copia(otro);
-        }
+        if (otro.clase_ == Clase::Grande)
+            return *this = Coeficiente(otro); // the copy may fail
+        Libera();
+        Copia(otro);
         return *this;
     }
     Coeficiente& operator=(Coeficiente&& otro) noexcept {
