@@ -2,6 +2,7 @@
 // whole coefficients are divided without their coefficients growing.
 #pragma once
 
+#include "engine/numeros/ancho128.h"
 #include "engine/numeros/entero.h"
 
 #include <cstddef>
@@ -29,7 +30,7 @@ public:
     Resto Inverso(Resto a) const { return Potencia(a, primo_ - 2); } // a is not 0
 
 private:
-    __extension__ using Doble = unsigned __int128;
+    using Doble = Natural128;
 
     std::uint64_t Reduce(Doble t) const {
         const auto m = static_cast<std::uint64_t>(t) * inverso_;

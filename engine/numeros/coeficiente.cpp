@@ -1,6 +1,7 @@
 #include "engine/numeros/coeficiente.h"
 
 #include "engine/base/fallos.h"
+#include "engine/numeros/ancho128.h"
 #include "engine/numeros/numero.h"
 
 #include <array>
@@ -13,7 +14,7 @@
 namespace quiralto {
 namespace {
 
-__extension__ using EnteroDoble = __int128;
+using EnteroDoble = Entero128;
 
 constexpr std::uint32_t MáximoDenominador = std::numeric_limits<std::uint32_t>::max();
 

@@ -3,6 +3,8 @@
 // Programming, vol. 2, 4.3.1), which the sizes that the engine lets grow do not outgrow.
 #pragma once
 
+#include "engine/numeros/ancho128.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -11,7 +13,7 @@
 namespace quiralto {
 
 using Palabra = std::uint64_t;
-__extension__ using DoblePalabra = unsigned __int128;
+using DoblePalabra = Natural128;
 using Magnitud = std::vector<Palabra>;
 
 inline constexpr std::size_t BitsPalabra = 64;

@@ -3,6 +3,7 @@
 #include "engine/base/caracteres.h"
 #include "engine/base/fallos.h"
 #include "engine/numeros/enteros_en_double.h"
+#include "engine/numeros/texto_a_double.h"
 
 #include <algorithm>
 #include <array>
@@ -156,9 +157,7 @@ NúmeroLeído LeeNúmero(std::string_view texto) {
     std::string limpio(mantisa); // from_chars knows neither the marker D nor a sign "+"
     if (!exponente.empty())
         (limpio += 'e').append(exponente);
-    const auto resultado =
-        std::from_chars(limpio.data(), limpio.data() + limpio.size(), leído.valor);
-    if (resultado.ec == std::errc::result_out_of_range) {
+    if (!LeeDouble(limpio, leído.valor)) {
         leído.desborda = EsDemasiadoGrande(mantisa, exponente);
         leído.valor = leído.desborda ? std::numeric_limits<double>::infinity() : 0;
     }
