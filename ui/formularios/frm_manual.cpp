@@ -1,0 +1,77 @@
+#include "ui/formularios/frm_manual.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+namespace quiralto {
+namespace {
+
+QString DevAncla(const QString& título) {
+    QString ancla;
+    for (const QChar c : título.toLower())
+        if (c.isLetterOrNumber() || c == u'-' || c == u' ')
+            ancla += c == u' ' ? QChar(u'-') : c;
+    return ancla;
+}
+
+QTextBlock BuscaTítulo(const QTextDocument& documento, const QString& ancla) {
+    for (QTextBlock bloque = documento.begin(); bloque.isValid(); bloque = bloque.next())
+        if (bloque.blockFormat().headingLevel() > 0 && DevAncla(bloque.text()) == ancla)
+            return bloque;
+    return {};
+}
+
+} // namespace
+
+FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window), texto_(new QTextBrowser(this)) {
+    setObjectName(QStringLiteral("frmManual"));
+    setWindowTitle(QStringLiteral("Manual"));
+    auto* buscar = new QLineEdit(this);
+    buscar->setObjectName(QStringLiteral("txtBuscar"));
+    buscar->setClearButtonEnabled(true);
+    auto* etiqueta = new QLabel(QStringLiteral("&Buscar (Intro, el siguiente)"), this);
+    etiqueta->setBuddy(buscar);
+    texto_->setObjectName(QStringLiteral("txtManual"));
+    texto_->setAccessibleName(QStringLiteral("Manual"));
+    texto_->setOpenLinks(false);
+    texto_->setSource(QUrl(QStringLiteral("qrc:/manual/manual.md")),
+                      QTextDocument::MarkdownResource);
+    auto* fila = new QHBoxLayout;
+    fila->addWidget(etiqueta);
+    fila->addWidget(buscar, 1);
+    auto* columna = new QVBoxLayout(this);
+    columna->setContentsMargins(12, 12, 12, 12);
+    columna->addLayout(fila);
+    columna->addWidget(texto_, 1);
+    connect(texto_, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl& enlace) { MuestraEnlace(enlace); });
+    connect(buscar, &QLineEdit::returnPressed, this, [this, buscar] { Busca(buscar->text()); });
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
+            &QWidget::close);
+    texto_->setFocus();
+    resize(820, 680);
+}
+
+void FrmManual::MuestraEnlace(const QUrl& enlace) {
+    const QTextBlock título = BuscaTítulo(*texto_->document(), enlace.fragment());
+    if (!título.isValid())
+        return;
+    // From the end upwards, so that the heading stands at the top.
+    texto_->moveCursor(QTextCursor::End);
+    texto_->setTextCursor(QTextCursor(título));
+    texto_->verticalScrollBar()->setValue(texto_->verticalScrollBar()->value() +
+                                          texto_->cursorRect().top());
+}
+
+void FrmManual::Busca(const QString& texto) {
+    if (texto.isEmpty() || texto_->find(texto))
+        return;
+    texto_->moveCursor(QTextCursor::Start);
+    texto_->find(texto);
+}
+
+} // namespace quiralto
