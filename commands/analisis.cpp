@@ -8,137 +8,154 @@
 #include "engine/numeros/numero.h"
 
 #include <cmath>
+#include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quiralto {
 namespace {
 
-constexpr int Pasos = 1000;
-
 struct Intervalo {
     double a;
     double b;
-    double h; // (b - a) / Pasos
+    double h; // (b - a) / PasosDeBúsqueda
 };
 
 Intervalo DevIntervalo(const DatosFunción& datos) {
     const double ancho = CompruebaFinito(datos.segundo - datos.primero);
-    return {datos.primero, datos.segundo, ancho / Pasos};
+    return {datos.primero, datos.segundo, ancho / PasosDeBúsqueda};
 }
 
-void AñadeLínea(const Contexto& contexto, Hoja& hoja, Hallazgo hallazgo) {
-    AñadeHallazgo(hoja, std::move(hallazgo), contexto.DígitosRedondeo);
-    hoja.texto += "\r\n";
+// The next place of a search, and what there is to tell of it: nothing where it is none of what
+// is looked for.
+struct Punto {
+    Solución lugar;
+    std::optional<Hallazgo> hallazgo;
+};
+
+// Writes the findings of a kind that `siguiente` gives, one a line, each search beginning behind
+// the place before; `ninguno` where there is none. The last search begins before b, or at b where
+// `hastaElFinal`.
+template <typename Siguiente>
+void EscribeTodos(const Contexto& contexto, Hoja& hoja, const Intervalo& intervalo,
+                  bool hastaElFinal, ClaseHallazgo clase, std::string_view ninguno,
+                  Siguiente siguiente) {
+    const auto [a, b, h] = intervalo;
+    bool hallado = false;
+    for (std::optional<double> comienzo = a;
+         comienzo && (*comienzo < b || (hastaElFinal && *comienzo == b));) {
+        std::optional<Punto> punto = siguiente(*comienzo);
+        if (!punto)
+            break;
+        comienzo = DevSiguienteComienzo(punto->lugar, h);
+        if (!punto->hallazgo || punto->hallazgo->clase != clase)
+            continue;
+        hallado = true;
+        AñadeHallazgo(hoja, std::move(*punto->hallazgo), contexto.DígitosRedondeo);
+        hoja.texto += "\r\n";
+    }
+    if (!hallado)
+        hoja.texto += ninguno;
 }
 
 void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
                          const Intervalo& intervalo) {
-    Programa programa = CompilaExpresión(f);
     hoja.texto += "\r\n\r\n";
+    BuscadorDeSoluciones buscador(contexto, CompilaExpresión(f));
     const auto [a, b, h] = intervalo;
-    bool hallada = false;
-    for (std::optional<double> comienzo = a; comienzo && *comienzo < b;) {
-        const std::optional<Solución> r = BuscaSolución(contexto, programa, *comienzo, b, h);
-        if (!r)
-            break;
-        hallada = true;
-        AñadeLínea(contexto, hoja, {ClaseHallazgo::Solución, f, a, b, Val(r->texto)});
-        comienzo = DevSiguienteComienzo(*r, h);
-    }
-    if (!hallada)
-        hoja.texto += "'No se hallaron soluciones";
+    EscribeTodos(contexto, hoja, intervalo, false, ClaseHallazgo::Solución,
+                 "'No se hallaron soluciones", [&](double comienzo) -> std::optional<Punto> {
+                     const std::optional<Solución> r = buscador.Busca(comienzo, b, h);
+                     if (!r)
+                         return std::nullopt;
+                     return Punto{*r, Hallazgo{ClaseHallazgo::Solución, f, a, b, Val(r->texto)}};
+                 });
 }
 
 // A function with its derivatives, each compiled once for the whole search; the second one, which
 // may be far larger than the others, only where it is asked for.
 class FunciónDerivada {
 public:
-    FunciónDerivada(Contexto& contexto, const std::string& f)
-        : contexto_(contexto), f_(CompilaExpresión(f)), textoPrimera_(Deriva(contexto, f)),
-          primera_(CompilaExpresión(textoPrimera_)) {}
+    FunciónDerivada(Contexto& contexto, std::string f)
+        : contexto_(contexto), texto_(std::move(f)), función_(CompilaExpresión(texto_)),
+          textoPrimera_(Deriva(contexto, texto_)) {}
 
-    Programa& Función() { return f_; }
-    Programa& Primera() { return primera_; }
-    Programa& Segunda() {
+    const std::string& Texto() const { return texto_; }
+    std::optional<double> DevValorFunción(double x) { return DevValor(contexto_, función_, x); }
+    std::optional<double> DevCurvatura(double x) {
         if (!segunda_)
-            segunda_ = CompilaExpresión(Deriva(contexto_, textoPrimera_));
-        return *segunda_;
+            segunda_ = CompilaSegunda();
+        return DevValor(contexto_, *segunda_, x);
     }
+    Programa CompilaPrimera() const { return CompilaExpresión(textoPrimera_); }
+    Programa CompilaSegunda() const { return CompilaExpresión(Deriva(contexto_, textoPrimera_)); }
 
 private:
     Contexto& contexto_;
-    Programa f_;
+    std::string texto_;
+    Programa función_;
     std::string textoPrimera_;
-    Programa primera_;
     std::optional<Programa> segunda_;
 };
 
-enum class ClasePunto { Ninguna, Máximo, Mínimo };
-
-struct PuntoExtremo {
-    Solución lugar;
-    ClasePunto clase;
-    double valor; // of f there; without meaning for Ninguna
-};
-
 // The next zero of the first derivative at or after a, told apart by the sign of the second at the
-// rounded place. Ninguna where that sign is 0 or f or the second derivative has no value there.
-std::optional<PuntoExtremo> DevPuntoExtremo(Contexto& contexto, FunciónDerivada& f, double a,
-                                            double b, double h) {
-    const std::optional<Solución> r = BuscaSolución(contexto, f.Primera(), a, b, h);
+// rounded place. Nothing to tell where that sign is 0, or f or the second derivative has no value.
+std::optional<Punto> DevPuntoExtremo(FunciónDerivada& f, BuscadorDeSoluciones& primera, double a,
+                                     const Intervalo& intervalo) {
+    const std::optional<Solución> r = primera.Busca(a, intervalo.b, intervalo.h);
     if (!r)
         return std::nullopt;
     const double x = Val(r->texto);
-    const std::optional<double> curvatura = DevValor(contexto, f.Segunda(), x);
-    const std::optional<double> valor = DevValor(contexto, f.Función(), x);
+    const std::optional<double> curvatura = f.DevCurvatura(x);
+    const std::optional<double> valor = f.DevValorFunción(x);
     if (!curvatura || *curvatura == 0 || !valor)
-        return PuntoExtremo{*r, ClasePunto::Ninguna, 0};
-    return PuntoExtremo{*r, *curvatura < 0 ? ClasePunto::Máximo : ClasePunto::Mínimo, *valor};
+        return Punto{*r, std::nullopt};
+    const auto clase = *curvatura < 0 ? ClaseHallazgo::Máximo : ClaseHallazgo::Mínimo;
+    return Punto{*r, Hallazgo{clase, f.Texto(), intervalo.a, intervalo.b, x, *valor}};
 }
 
 void DevExtremos(Contexto& contexto, Hoja& hoja, const std::string& f, const Intervalo& intervalo,
-                 ClasePunto clase) {
+                 ClaseHallazgo clase, std::string_view ninguno) {
     hoja.texto += "\r\n\r\n";
     FunciónDerivada función(contexto, f);
-    const bool máximos = clase == ClasePunto::Máximo;
-    const auto [a, b, h] = intervalo;
-    bool hallado = false;
-    for (std::optional<double> comienzo = a; comienzo && *comienzo <= b;) {
-        const std::optional<PuntoExtremo> punto =
-            DevPuntoExtremo(contexto, función, *comienzo, b, h);
-        if (!punto)
-            break;
-        if (punto->clase == clase) {
-            hallado = true;
-            AñadeLínea(contexto, hoja,
-                       {máximos ? ClaseHallazgo::Máximo : ClaseHallazgo::Mínimo, f, a, b,
-                        Val(punto->lugar.texto), punto->valor});
-        }
-        comienzo = DevSiguienteComienzo(punto->lugar, h);
-    }
-    if (!hallado)
-        hoja.texto += máximos ? "'No se hallaron máximos" : "'No se hallaron mínimos";
+    BuscadorDeSoluciones primera(contexto, función.CompilaPrimera());
+    EscribeTodos(contexto, hoja, intervalo, true, clase, ninguno, [&](double comienzo) {
+        return DevPuntoExtremo(función, primera, comienzo, intervalo);
+    });
+}
+
+void DevMáximos(Contexto& contexto, Hoja& hoja, const std::string& f, const Intervalo& intervalo) {
+    DevExtremos(contexto, hoja, f, intervalo, ClaseHallazgo::Máximo, "'No se hallaron máximos");
+}
+
+void DevMínimos(Contexto& contexto, Hoja& hoja, const std::string& f, const Intervalo& intervalo) {
+    DevExtremos(contexto, hoja, f, intervalo, ClaseHallazgo::Mínimo, "'No se hallaron mínimos");
+}
+
+// The next zero of the second derivative at or after a. Nothing to tell where f has no value.
+std::optional<Punto> DevPuntoInflexión(FunciónDerivada& f, BuscadorDeSoluciones& segunda, double a,
+                                       const Intervalo& intervalo) {
+    const std::optional<Solución> r = segunda.Busca(a, intervalo.b, intervalo.h);
+    if (!r)
+        return std::nullopt;
+    const double x = Val(r->texto);
+    const std::optional<double> valor = f.DevValorFunción(x);
+    if (!valor)
+        return Punto{*r, std::nullopt};
+    return Punto{
+        *r, Hallazgo{ClaseHallazgo::Inflexión, f.Texto(), intervalo.a, intervalo.b, x, *valor}};
 }
 
 void DevPuntosInflexión(Contexto& contexto, Hoja& hoja, const std::string& f,
                         const Intervalo& intervalo) {
     hoja.texto += "\r\n\r\n";
-    Programa programa = CompilaExpresión(f);
-    Programa segunda = CompilaExpresión(Deriva(contexto, Deriva(contexto, f)));
-    const auto [a, b, h] = intervalo;
-    bool hallado = false;
-    for (std::optional<double> comienzo = a; comienzo && *comienzo <= b;) {
-        const std::optional<Solución> r = BuscaSolución(contexto, segunda, *comienzo, b, h);
-        if (!r)
-            break;
-        if (const auto valor = DevValor(contexto, programa, Val(r->texto))) {
-            hallado = true;
-            AñadeLínea(contexto, hoja, {ClaseHallazgo::Inflexión, f, a, b, Val(r->texto), *valor});
-        }
-        comienzo = DevSiguienteComienzo(*r, h);
-    }
-    if (!hallado)
-        hoja.texto += "'No se hallaron puntos de inflexión";
+    FunciónDerivada función(contexto, f);
+    BuscadorDeSoluciones segunda(contexto, función.CompilaSegunda());
+    EscribeTodos(contexto, hoja, intervalo, true, ClaseHallazgo::Inflexión,
+                 "'No se hallaron puntos de inflexión", [&](double comienzo) {
+                     return DevPuntoInflexión(función, segunda, comienzo, intervalo);
+                 });
 }
 
 // The trapezoid rule on |f|; a point without a value counts as 0.
@@ -147,10 +164,10 @@ void DevArea(Contexto& contexto, Hoja& hoja, const std::string& f, const Interva
     const Programa programa = CompilaExpresión(f);
     const auto [a, b, h] = intervalo;
     std::vector<double> equis;
-    equis.reserve(Pasos + 1);
+    equis.reserve(PasosDeBúsqueda + 1);
     equis.push_back(a);
     // Each point from its number, so that no accumulated rounding drops or adds one.
-    for (int k = 1; k < Pasos; ++k)
+    for (int k = 1; k < PasosDeBúsqueda; ++k)
         equis.push_back(a + k * h);
     equis.push_back(b);
     std::vector<double> valores(equis.size());
@@ -160,9 +177,9 @@ void DevArea(Contexto& contexto, Hoja& hoja, const std::string& f, const Interva
         return fallos[i] == SinFallo ? std::fabs(valores[i]) : 0;
     };
     double suma = 0;
-    for (std::size_t i = 1; i < Pasos; ++i)
+    for (std::size_t i = 1; i < PasosDeBúsqueda; ++i)
         suma = CompruebaFinito(suma + altura(i));
-    const double area = CompruebaFinito((altura(0) + altura(Pasos) + 2 * suma) * h / 2);
+    const double area = CompruebaFinito((altura(0) + altura(PasosDeBúsqueda) + 2 * suma) * h / 2);
     AñadeHallazgo(hoja, {ClaseHallazgo::Área, f, a, b, 0, area}, contexto.DígitosRedondeo);
 }
 
@@ -178,15 +195,11 @@ void ResolverSolucionesEcuación(Contexto& contexto, Hoja& hoja) {
 }
 
 void ResolverMáximosEcuación(Contexto& contexto, Hoja& hoja) {
-    ConDatos(contexto, hoja, [](Contexto& c, Hoja& h, const std::string& f, const Intervalo& i) {
-        DevExtremos(c, h, f, i, ClasePunto::Máximo);
-    });
+    ConDatos(contexto, hoja, DevMáximos);
 }
 
 void ResolverMínimosEcuación(Contexto& contexto, Hoja& hoja) {
-    ConDatos(contexto, hoja, [](Contexto& c, Hoja& h, const std::string& f, const Intervalo& i) {
-        DevExtremos(c, h, f, i, ClasePunto::Mínimo);
-    });
+    ConDatos(contexto, hoja, DevMínimos);
 }
 
 void ResolverPuntosInflexión(Contexto& contexto, Hoja& hoja) {

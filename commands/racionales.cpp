@@ -1,6 +1,7 @@
 #include "commands/racionales.h"
 
 #include "commands/datos_funcion.h"
+#include "engine/evaluacion/raices.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/polinomios/evalua_racional.h"
 #include "engine/polinomios/factores.h"
@@ -13,8 +14,6 @@
 
 namespace quiralto {
 namespace {
-
-constexpr int Pasos = 1000; // of the search for roots
 
 // Reads the functions of all the instruction lines, separated by commas, by lines or by both. None:
 // a message has been shown, and the line is selected where a function of it is refused.
@@ -66,7 +65,7 @@ void ResolverFactorizarFunciónRacional(Contexto& contexto, Hoja& hoja) {
         return;
     const double a = datos->primero;
     const double b = datos->segundo;
-    const double h = CompruebaFinito(b - a) / Pasos;
+    const double h = CompruebaFinito(b - a) / PasosDeBúsqueda;
     auto racional = EvalúaRacional(contexto, CompilaExpresión(datos->función));
     if (!racional)
         return;

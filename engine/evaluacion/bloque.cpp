@@ -13,58 +13,66 @@ namespace {
 // of them is compiled for its own instruction set.
 #define QUIRALTO_EN_LÍNEA [[gnu::always_inline]] inline
 
+// The rows' values that a run is over: a whole number of lanes.
+constexpr std::size_t Carriles = 16;
+
+QUIRALTO_EN_LÍNEA std::size_t EnCarriles(std::size_t cantidad) {
+    return cantidad / Carriles * Carriles; // says to the compiler what Ejecuta has seen to
+}
+
 template <typename F>
-QUIRALTO_EN_LÍNEA void Aplica(double* __restrict destino, const double* __restrict a, F f) {
-    for (std::size_t i = 0; i < TamañoFila; ++i)
+QUIRALTO_EN_LÍNEA void Aplica(std::size_t n, double* __restrict destino, const double* __restrict a,
+                              F f) {
+    for (std::size_t i = 0; i < EnCarriles(n); ++i)
         destino[i] = f(a[i]);
 }
 
 // A row never is its own operand: the plan takes the result's row before it gives theirs back.
 template <typename F>
-QUIRALTO_EN_LÍNEA void AplicaBinaria(const Filas& filas, const Paso& paso, F f) {
+QUIRALTO_EN_LÍNEA void AplicaBinaria(std::size_t n, const Filas& filas, const Paso& paso, F f) {
     double* const __restrict destino = filas[paso.destino];
     const double* const a = filas[paso.izquierdo.fila];
     const double* const b = filas[paso.derecho.fila];
     const double constante = paso.derecho.esFila ? paso.izquierdo.valor : paso.derecho.valor;
     if (!paso.derecho.esFila) {
-        for (std::size_t i = 0; i < TamañoFila; ++i)
+        for (std::size_t i = 0; i < EnCarriles(n); ++i)
             destino[i] = f(a[i], constante);
     } else if (!paso.izquierdo.esFila) {
-        for (std::size_t i = 0; i < TamañoFila; ++i)
+        for (std::size_t i = 0; i < EnCarriles(n); ++i)
             destino[i] = f(constante, b[i]);
     } else {
-        for (std::size_t i = 0; i < TamañoFila; ++i)
+        for (std::size_t i = 0; i < EnCarriles(n); ++i)
             destino[i] = f(a[i], b[i]);
     }
 }
 
-QUIRALTO_EN_LÍNEA void AplicaPotencia(const Filas& filas, const Paso& paso) {
+QUIRALTO_EN_LÍNEA void AplicaPotencia(std::size_t n, const Filas& filas, const Paso& paso) {
     double* const destino = filas[paso.destino];
     const double* const base = filas[paso.izquierdo.fila];
     switch (paso.derecho.esFila ? 0 : ExponenteProducto(paso.derecho.valor)) {
     case 2:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<2>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<2>(a); });
     case 3:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<3>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<3>(a); });
     case 4:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<4>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<4>(a); });
     case 5:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<5>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<5>(a); });
     case 6:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<6>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<6>(a); });
     case 7:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<7>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<7>(a); });
     case 8:
-        return Aplica(destino, base, [](double a) { return PotenciaEntera<8>(a); });
+        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<8>(a); });
     default:
-        return AplicaBinaria(filas, paso, [](double a, double b) { return DevPotencia(a, b); });
+        return AplicaBinaria(n, filas, paso, [](double a, double b) { return DevPotencia(a, b); });
     }
 }
 
 // The compiler makes one call of the two, which gives the bits of both.
-QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(double* __restrict seno, double* __restrict coseno,
-                                         const double* __restrict a) {
-    for (std::size_t i = 0; i < TamañoFila; ++i) {
+QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(std::size_t n, double* __restrict seno,
+                                         double* __restrict coseno, const double* __restrict a) {
+    for (std::size_t i = 0; i < EnCarriles(n); ++i) {
         seno[i] = std::sin(a[i]);
         coseno[i] = std::cos(a[i]);
     }
@@ -72,39 +80,38 @@ QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(double* __restrict seno, double* __res
 
 // The loop of one row of the table. SLN is never planned.
 template <std::size_t Índice>
-QUIRALTO_EN_LÍNEA void EjecutaOperación(const Filas& filas, const Paso& paso) {
+QUIRALTO_EN_LÍNEA void EjecutaOperación(std::size_t n, const Filas& filas, const Paso& paso) {
     constexpr const DescripciónOperación& Operador = TablaOperaciones[Índice];
     [[maybe_unused]] const double* const argumento = filas[paso.derecho.fila];
     if constexpr (Operador.familia == Familia::Símbolo)
         return;
     else if constexpr (Operador.familia == Familia::Potencia)
-        AplicaPotencia(filas, paso);
+        AplicaPotencia(n, filas, paso);
     else if constexpr (Operador.EsBinaria())
-        AplicaBinaria(filas, paso, [](double a, double b) {
+        AplicaBinaria(n, filas, paso, [](double a, double b) {
             return TablaOperaciones[Índice].valor(a, b, nullptr);
         });
     else if (Operador.código == Operación::Sin && paso.destinoCoseno != 0)
-        AplicaSenoYCoseno(filas[paso.destino], filas[paso.destinoCoseno], argumento);
+        AplicaSenoYCoseno(n, filas[paso.destino], filas[paso.destinoCoseno], argumento);
     else
-        Aplica(filas[paso.destino], argumento,
+        Aplica(n, filas[paso.destino], argumento,
                [](double a) { return TablaOperaciones[Índice].valor(0, a, nullptr); });
 }
 
 template <std::size_t... Índice>
-QUIRALTO_EN_LÍNEA void EjecutaPasoGenérico(std::index_sequence<Índice...>, const Filas& filas,
-                                           const Paso& paso) {
+QUIRALTO_EN_LÍNEA void EjecutaPasoGenérico(std::index_sequence<Índice...>, std::size_t n,
+                                           const Filas& filas, const Paso& paso) {
     static_cast<void>(((paso.código == TablaOperaciones[Índice].código &&
-                        (EjecutaOperación<Índice>(filas, paso), true)) ||
+                        (EjecutaOperación<Índice>(n, filas, paso), true)) ||
                        ...));
 }
 
 constexpr std::make_index_sequence<TablaOperaciones.size()> Índices;
 
 // v - v is 0 for a finite v and not a number for any other.
-QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(const double* fila) {
-    constexpr std::size_t Carriles = 16;
+QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(std::size_t n, const double* fila) {
     std::array<double, Carriles> sumas{};
-    for (std::size_t i = 0; i < TamañoFila; i += Carriles)
+    for (std::size_t i = 0; i < EnCarriles(n); i += Carriles)
         for (std::size_t k = 0; k < Carriles; ++k)
             sumas[k] += fila[i + k] - fila[i + k];
     double total = 0;
@@ -113,22 +120,22 @@ QUIRALTO_EN_LÍNEA bool TodosFinitosGenérico(const double* fila) {
     return total == 0;
 }
 
-void EjecutaPasoBase(const Filas& filas, const Paso& paso) {
-    EjecutaPasoGenérico(Índices, filas, paso);
+void EjecutaPasoBase(std::size_t n, const Filas& filas, const Paso& paso) {
+    EjecutaPasoGenérico(Índices, n, filas, paso);
 }
 
-bool TodosFinitosBase(const double* fila) {
-    return TodosFinitosGenérico(fila);
+bool TodosFinitosBase(std::size_t n, const double* fila) {
+    return TodosFinitosGenérico(n, fila);
 }
 
 #if defined(__x86_64__)
 // Twice as many values an instruction where the processor can; the results are the same bits.
-[[gnu::target("avx2")]] void EjecutaPasoAvx2(const Filas& filas, const Paso& paso) {
-    EjecutaPasoGenérico(Índices, filas, paso);
+[[gnu::target("avx2")]] void EjecutaPasoAvx2(std::size_t n, const Filas& filas, const Paso& paso) {
+    EjecutaPasoGenérico(Índices, n, filas, paso);
 }
 
-[[gnu::target("avx2")]] bool TodosFinitosAvx2(const double* fila) {
-    return TodosFinitosGenérico(fila);
+[[gnu::target("avx2")]] bool TodosFinitosAvx2(std::size_t n, const double* fila) {
+    return TodosFinitosGenérico(n, fila);
 }
 #endif
 
@@ -150,24 +157,25 @@ EjecutorDeBloques::EjecutorDeBloques(const Plan& plan)
 }
 
 void EjecutorDeBloques::Ejecuta(std::span<const double> equis, std::span<double> valores) {
-    // A whole block is read and written where the caller has it.
-    const bool entero = equis.size() == TamañoFila;
+    // Whole lanes are read and written where the caller has it.
+    const bool entero = equis.size() % Carriles == 0;
+    cantidad_ = (equis.size() + Carriles - 1) / Carriles * Carriles;
     double* const equisPropias = propias_.get();
     if (!entero)
-        std::fill(std::ranges::copy(equis, equisPropias).out, equisPropias + TamañoFila,
+        std::fill(std::ranges::copy(equis, equisPropias).out, equisPropias + cantidad_,
                   equis.back());
     // Row 0 is never written.
     filas_[0] = entero ? const_cast<double*>(equis.data()) : equisPropias;
     hayFallos_ = false;
     for (auto paso = plan_.pasos.begin(); paso != plan_.pasos.end() - 1; ++paso) {
-        procesador_.EjecutaPaso(filas_, *paso);
+        procesador_.EjecutaPaso(cantidad_, filas_, *paso);
         Comprueba(*paso);
     }
     const Paso& último = plan_.pasos.back();
     double* const suya = filas_[plan_.resultado];
     if (entero)
         filas_[plan_.resultado] = valores.data();
-    procesador_.EjecutaPaso(filas_, último);
+    procesador_.EjecutaPaso(cantidad_, filas_, último);
     Comprueba(último);
     filas_[plan_.resultado] = suya;
     if (!entero)
@@ -178,14 +186,14 @@ void EjecutorDeBloques::Comprueba(const Paso& paso) {
     if (!paso.vigilado)
         return;
     for (const std::size_t fila : {paso.destino, paso.destinoCoseno})
-        if (fila != 0 && !procesador_.TodosFinitos(filas_[fila]))
+        if (fila != 0 && !procesador_.TodosFinitos(cantidad_, filas_[fila]))
             AnotaFallos(filas_[fila]);
 }
 
 void EjecutorDeBloques::AnotaFallos(const double* fila) {
     if (!std::exchange(hayFallos_, true))
         fallos_.fill(false);
-    for (std::size_t i = 0; i < TamañoFila; ++i)
+    for (std::size_t i = 0; i < cantidad_; ++i)
         fallos_[i] = fallos_[i] || !std::isfinite(fila[i]);
 }
 

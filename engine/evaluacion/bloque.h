@@ -33,8 +33,8 @@ public:
 private:
     // The row loops for the instruction set of this processor.
     struct Procesador {
-        void (*EjecutaPaso)(const Filas&, const Paso&);
-        bool (*TodosFinitos)(const double*);
+        void (*EjecutaPaso)(std::size_t cantidad, const Filas&, const Paso&);
+        bool (*TodosFinitos)(std::size_t cantidad, const double*);
     };
     static Procesador DevProcesador();
 
@@ -46,6 +46,7 @@ private:
     Filas filas_;
     std::array<bool, TamañoFila> fallos_{};
     bool hayFallos_ = false;
+    std::size_t cantidad_ = 0; // of values in the rows of the run, in whole lanes
     Procesador procesador_ = DevProcesador();
 };
 

@@ -48,21 +48,27 @@ std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x)
     return std::nullopt;
 }
 
-void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
-                  std::span<double> valores, std::span<std::int16_t> fallos) {
+struct EvaluadorDeBloques::Partes {
+    explicit Partes(const Programa& suyo)
+        : programa(suyo), porBloques(PlaneaBloque(suyo, plan)), ejecutor(plan) {}
+
+    Programa programa; // for the values that need the scalar run
+    Plan plan;
+    bool porBloques;
+    EjecutorDeBloques ejecutor;
+};
+
+EvaluadorDeBloques::EvaluadorDeBloques(const Programa& programa)
+    : partes_(std::make_unique<Partes>(programa)) {
+}
+
+EvaluadorDeBloques::~EvaluadorDeBloques() = default;
+
+void EvaluadorDeBloques::Evalúa(Contexto& contexto, std::span<const double> equis,
+                                std::span<double> valores, std::span<std::int16_t> fallos) {
     assert(valores.size() == equis.size() && fallos.size() == equis.size());
     const std::int16_t errorAnterior = contexto.ErrorCódigo;
-    Programa copia; // for the values that need the scalar run
-    const auto evalúaUno = [&](std::size_t i) {
-        if (copia.registros.empty())
-            copia = programa;
-        contexto.ErrorCódigo = SinFallo;
-        valores[i] = EvalúaPrograma(contexto, copia, equis[i]);
-        fallos[i] = contexto.ErrorCódigo;
-    };
-    Plan plan;
-    const bool porBloques = PlaneaBloque(programa, plan);
-    EjecutorDeBloques ejecutor(plan);
+    auto& [programa, plan, porBloques, ejecutor] = *partes_;
     for (std::size_t desde = 0; desde < equis.size(); desde += TamañoFila) {
         contexto.Vigila();
         const std::size_t cantidad = std::min(TamañoFila, equis.size() - desde);
@@ -72,11 +78,20 @@ void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const
             if (!ejecutor.HayFallos())
                 continue;
         }
-        for (std::size_t i = 0; i < cantidad; ++i)
-            if (!porBloques || ejecutor.HayFallo(i))
-                evalúaUno(desde + i);
+        for (std::size_t i = desde; i < desde + cantidad; ++i) {
+            if (porBloques && !ejecutor.HayFallo(i - desde))
+                continue;
+            contexto.ErrorCódigo = SinFallo;
+            valores[i] = EvalúaPrograma(contexto, programa, equis[i]);
+            fallos[i] = contexto.ErrorCódigo;
+        }
     }
     contexto.ErrorCódigo = errorAnterior;
+}
+
+void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
+                  std::span<double> valores, std::span<std::int16_t> fallos) {
+    EvaluadorDeBloques(programa).Evalúa(contexto, equis, valores, fallos);
 }
 
 } // namespace quiralto

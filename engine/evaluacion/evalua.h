@@ -11,6 +11,7 @@
 #include "engine/lenguaje/programa.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 
@@ -25,10 +26,27 @@ double EvalúaPrograma(Contexto& contexto, Programa& programa, double x);
 // The value at x, or none where there is a fault. Leaves ErrorCódigo clear.
 std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x);
 
-// The same for every value of `equis`: valores[i] and fallos[i] are what EvalúaPrograma would
-// return and set at equis[i], to the bit (fallos[i] is 0 without a fault, and valores[i] means
-// nothing with one). The three spans have one length. contexto.ErrorCódigo is left alone; the
-// watcher is asked between blocks.
+// Runs a program over many values of X at once; made once for many runs.
+class EvaluadorDeBloques {
+public:
+    explicit EvaluadorDeBloques(const Programa& programa);
+    ~EvaluadorDeBloques();
+    EvaluadorDeBloques(const EvaluadorDeBloques&) = delete;
+    EvaluadorDeBloques& operator=(const EvaluadorDeBloques&) = delete;
+
+    // For every value of `equis`: valores[i] and fallos[i] are what EvalúaPrograma would return and
+    // set at equis[i], to the bit (fallos[i] is 0 without a fault, and valores[i] means nothing
+    // with one). The three spans have one length. contexto.ErrorCódigo is left alone; the watcher
+    // is asked between blocks.
+    void Evalúa(Contexto& contexto, std::span<const double> equis, std::span<double> valores,
+                std::span<std::int16_t> fallos);
+
+private:
+    struct Partes;
+    std::unique_ptr<Partes> partes_;
+};
+
+// The same for a single run.
 void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
                   std::span<double> valores, std::span<std::int16_t> fallos);
 

@@ -1,11 +1,11 @@
 // The root finder behind every command that looks for zeros.
 #pragma once
 
-#include "engine/base/contexto.h"
-#include "engine/lenguaje/programa.h"
+#include "engine/evaluacion/evalua.h"
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quiralto {
 
@@ -14,14 +14,44 @@ struct Solución {
     std::string texto; // rounded to DígitosRedondeo, with a leading blank if not negative
 };
 
-// The first root of the program at or after a, up to the extended end b + h: it walks in steps of
-// h > 0 and halves the step at a change of sign until the step no longer changes the Double. Points
-// without a value are stepped over. A pole where the sign changes counts as a root; a zero without
-// a change of sign is found only where a sample falls on it exactly. None: no root.
-//
-// Leaves ErrorCódigo clear. Asks the watcher. Fault: run-time error 6 where b + h overflows.
-std::optional<Solución> BuscaSolución(Contexto& contexto, Programa& programa, double a, double b,
-                                      double h);
+// The commands divide the interval that they search into so many steps.
+inline constexpr int PasosDeBúsqueda = 1000;
+
+// Finds the roots of one program; made once for all of them.
+class BuscadorDeSoluciones {
+public:
+    BuscadorDeSoluciones(Contexto& contexto, const Programa& programa);
+
+    // The first root at or after a, up to the extended end b + h: it walks in steps of h > 0 and
+    // halves the step at a change of sign until the step no longer changes the Double. Points
+    // without a value are stepped over. A pole where the sign changes counts as a root; a zero
+    // without a change of sign is found only where a sample falls on it exactly. None: no root.
+    //
+    // Leaves ErrorCódigo clear. Asks the watcher. Fault: run-time error 6 where b + h overflows.
+    std::optional<Solución> Busca(double a, double b, double h);
+
+private:
+    // A step that the sign does not outlast: from the last point before it to the one behind.
+    struct Cambio {
+        double antes;
+        double después;
+    };
+    std::optional<int> DevSigno(double x);
+    std::optional<Cambio> BuscaCambio(double a, double b, double h, int signo);
+    void EvalúaPasos(double x0, double b, double h, std::size_t cantidad);
+
+    Contexto& contexto_;
+    Programa programa_;
+    EvaluadorDeBloques bloques_;
+    // The next points of the walk, with what the program gives there.
+    std::vector<double> equis_;
+    std::vector<double> valores_;
+    std::vector<std::int16_t> fallos_;
+};
+
+// The first root of the program, for a single search.
+std::optional<Solución> BuscaSolución(Contexto& contexto, const Programa& programa, double a,
+                                      double b, double h);
 
 // Where the search for the next root starts: the rounded root plus h; where that does not lie
 // beyond the root (few rounding digits, a tiny interval), the root itself plus h. None: the step

@@ -133,7 +133,7 @@ TEST(BuscaSolución, ElExtremoQueDesbordaEsUnErrorDeEjecución) {
 
 TEST(BuscaSolución, SeCancela) {
     Banco banco;
-    int quedan = 100;
+    int quedan = 7; // it is asked at single points and between blocks
     banco.vigilante.continúa = [&] { return --quedan > 0; };
     Programa programa = CompilaExpresión("X^2+1");
     EXPECT_THROW(BuscaSolución(banco.contexto, programa, -5, 5, 0.01), OrdenCancelada);
@@ -195,6 +195,62 @@ TEST(BuscaSolución, HallaLoMismoPasoAPaso) {
         halladas += *esperado == SinSolución ? 0 : 1;
     }
     EXPECT_GT(halladas, 200);
+}
+
+// The walk one X at a time, every sign asked of the scalar run.
+std::optional<double> BuscaUnoAUno(Contexto& contexto, Programa& programa, double a, double b,
+                                   double h) {
+    const auto signo = [&](double x) -> std::optional<int> {
+        const std::optional<double> valor = DevValor(contexto, programa, x);
+        return valor ? std::optional((*valor > 0) - (*valor < 0)) : std::nullopt;
+    };
+    b += h;
+    std::optional<int> s0;
+    while (a <= b && !(s0 = signo(a)) && a + h != a)
+        a += h;
+    if (!s0)
+        return std::nullopt;
+    double cambio = std::numeric_limits<double>::infinity();
+    for (double x0 = a; a <= b;) {
+        a = std::min(x0 + h, cambio);
+        if (a == x0)
+            return x0;
+        const std::optional<int> s = signo(a);
+        if (!s || *s == *s0) {
+            x0 = a;
+        } else {
+            cambio = a;
+            h /= 2;
+        }
+    }
+    return std::nullopt;
+}
+
+TEST(BuscadorDeSoluciones, HallaTodasLasDeUnoAUnoConLosMismosBits) {
+    constexpr int Semilla = 23;
+    Banco banco;
+    Generador generador(Semilla);
+    std::size_t halladas = 0;
+    for (int i = 0; i < 1500; ++i) {
+        const std::string texto = generador.Expresión(1 + generador.Hasta(8));
+        const double a = generador.Real(-6, 3);
+        const double b = a + generador.Real(0, 6);
+        const double h = (b - a) / PasosDeBúsqueda;
+        Programa programa = CompilaExpresión(texto);
+        BuscadorDeSoluciones buscador(banco.contexto, programa);
+        for (std::optional<double> comienzo = a; comienzo && *comienzo <= b;) {
+            const auto esperada = BuscaUnoAUno(banco.contexto, programa, *comienzo, b, h);
+            const auto hallada = buscador.Busca(*comienzo, b, h);
+            ASSERT_EQ(hallada.has_value(), esperada.has_value())
+                << texto << " from " << *comienzo << " seed " << Semilla;
+            if (!hallada)
+                break;
+            ASSERT_EQ(hallada->raíz, *esperada) << texto << " seed " << Semilla;
+            ++halladas;
+            comienzo = DevSiguienteComienzo(*hallada, h);
+        }
+    }
+    EXPECT_GT(halladas, 5000U);
 }
 
 std::string TextoExacto(double valor) {
