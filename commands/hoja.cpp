@@ -23,23 +23,27 @@ void AñadeHallazgo(Hoja& hoja, Hallazgo hallazgo, int dígitos) {
 std::string ConCrLf(std::string_view texto) {
     std::string convertido;
     convertido.reserve(texto.size() + texto.size() / 16);
-    char anterior = '\0';
-    for (const char c : texto) {
-        if (c == '\n' && anterior != '\r')
-            convertido += '\r';
-        convertido += c;
-        anterior = c;
+    for (;;) {
+        const std::size_t fin = texto.find('\n');
+        convertido += texto.substr(0, fin);
+        if (fin == std::string_view::npos)
+            return convertido;
+        convertido += fin > 0 && texto[fin - 1] == '\r' ? "\n" : "\r\n";
+        texto.remove_prefix(fin + 1);
     }
-    return convertido;
 }
 
 std::string ConLf(std::string_view texto) {
     std::string convertido;
     convertido.reserve(texto.size());
-    for (std::size_t i = 0; i < texto.size(); ++i)
-        if (texto.substr(i, 2) != "\r\n")
-            convertido += texto[i];
-    return convertido;
+    for (;;) {
+        const std::size_t fin = texto.find("\r\n");
+        convertido += texto.substr(0, fin);
+        if (fin == std::string_view::npos)
+            return convertido;
+        convertido += '\n';
+        texto.remove_prefix(fin + 2);
+    }
 }
 
 } // namespace quiralto

@@ -29,6 +29,9 @@ TEST(Hoja, LosSaltosVanYVienen) {
     EXPECT_EQ(ConCrLf("a\nb\r\nc\rd\n"), "a\r\nb\r\nc\rd\r\n");
     EXPECT_EQ(ConLf("a\r\nb\r\nc\rd\r\n"), "a\nb\nc\rd\n");
     EXPECT_EQ(ConLf(ConCrLf("\n\n")), "\n\n");
+    EXPECT_EQ(ConCrLf("\n\r\n\r\r\n\n\r"), "\r\n\r\n\r\r\n\r\n\r");
+    EXPECT_EQ(ConLf("\r\r\n\r\n\n\r"), "\r\n\n\n\r");
+    EXPECT_EQ(ConCrLf("") + ConLf(""), "");
 }
 
 } // namespace
