@@ -6,6 +6,7 @@
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/operaciones.h"
 #include "engine/numeros/numero.h"
+#include "engine/sistemas/grado.h"
 
 #include <algorithm>
 #include <array>
@@ -135,7 +136,12 @@ private:
 std::optional<EcuaciónLineal> LeeEcuaciónLineal(Contexto& contexto, std::string_view expresión) {
     TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
     tabla.soloPorLetra = true;
-    const Términos suma = DesarrollaEnTérminos(tabla, CompilaExpresión(expresión));
+    const Programa programa = CompilaExpresión(expresión);
+    if (PasaDeGradoUno(programa)) {
+        RechazaNoLineal(contexto);
+        return std::nullopt;
+    }
+    const Términos suma = DesarrollaEnTérminos(tabla, programa);
     Lector lector(contexto, tabla);
     if (!lector.SintaxisSln(suma))
         return std::nullopt;
