@@ -1,5 +1,6 @@
 // Polynomials with whole coefficients and whole exponents from 0 up, as lists that the search for
 // common factors works on.
+// Tested by mcd_test.cpp.
 #pragma once
 
 #include "engine/polinomios/polinomio.h"

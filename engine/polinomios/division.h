@@ -1,4 +1,5 @@
 // Long division of polynomials.
+// Tested by polinomio_test.cpp.
 #pragma once
 
 #include "engine/polinomios/polinomio.h"

@@ -1,4 +1,5 @@
 // A formula as one rational function, by running its program over rational functions of X.
+// Tested by racional_test.cpp.
 #pragma once
 
 #include "engine/base/rechazo.h"

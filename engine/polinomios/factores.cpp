@@ -113,7 +113,7 @@ std::string TextoCoeficientePrincipal(const Contexto& contexto, const Polinomio&
 
 std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, double a, double b,
                                double h) {
-    const Polinomio p = QuitaNulos(contexto, polinomio);
+    const Polinomio p = QuitaPrincipalesNulos(contexto, polinomio);
     if (EsConstante(p) || !TieneExponentesNaturales(p))
         return EscribePolinomio(contexto, p);
     const std::vector<Raíz> raíces = DevRaíces(contexto, p, a, b, h);

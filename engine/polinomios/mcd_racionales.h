@@ -1,6 +1,7 @@
 // The greatest common divisor and the least common multiple of several rational functions. Each
 // function is brought to lowest terms first, and the result too; a number that they are multiplied
 // by changes neither, so that coefficients with decimals may be scaled.
+// Tested by racional_test.cpp.
 #pragma once
 
 #include "engine/polinomios/racional.h"

@@ -1,5 +1,6 @@
 // Polynomials with whole coefficients seen modulo a prime, where dividing them makes nothing grow,
 // and the way back.
+// Tested by mcd_test.cpp.
 #pragma once
 
 #include "engine/numeros/campo_primo.h"

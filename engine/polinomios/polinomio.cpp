@@ -121,20 +121,17 @@ Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p) {
     return DevExactoDeDecimales(términos);
 }
 
-Polinomio QuitaNulos(const Contexto& contexto, Polinomio p) {
+Polinomio QuitaPrincipalesNulos(const Contexto& contexto, Polinomio p) {
     const PolinomioReal real = AReal(p);
-    std::visit(
-        [&](auto& polinomio) {
-            std::size_t i = 0;
-            const auto esNulo = [&](const auto& /*término*/) {
-                return Redondea(real[i++].coeficiente, contexto.DígitosRedondeo) == 0;
-            };
-            if constexpr (std::is_same_v<decltype(polinomio), PolinomioExacto&>)
-                std::erase_if(polinomio.términos, esNulo);
-            else
-                std::erase_if(polinomio, esNulo);
-        },
-        p);
+    const auto esNulo = [&](const Monomio<double>& t) {
+        return Redondea(t.coeficiente, contexto.DígitosRedondeo) == 0;
+    };
+    const auto nulos = std::ranges::find_if_not(real, esNulo) - real.begin();
+    if (auto* const exacto = std::get_if<PolinomioExacto>(&p))
+        exacto->términos.erase(exacto->términos.begin(), exacto->términos.begin() + nulos);
+    else
+        std::get<PolinomioReal>(p).erase(std::get<PolinomioReal>(p).begin(),
+                                         std::get<PolinomioReal>(p).begin() + nulos);
     return p;
 }
 

@@ -63,8 +63,8 @@ std::string EscribePolinomio(const Contexto& contexto, std::string_view texto);
 // With the coefficients that the display form writes; the result is exact.
 Polinomio RedondeaPolinomio(const Contexto& contexto, const Polinomio& p);
 
-// The polynomial without the terms that the display form leaves out.
-Polinomio QuitaNulos(const Contexto& contexto, Polinomio p);
+// The polynomial without the leading terms that the display form leaves out.
+Polinomio QuitaPrincipalesNulos(const Contexto& contexto, Polinomio p);
 
 // Whether the display form writes it in full: exact decimals of at most DígitosRedondeo places.
 bool EsDeDecimales(const Contexto& contexto, const Polinomio& p);

@@ -10,7 +10,7 @@
 namespace quiralto {
 namespace {
 
-constexpr std::size_t BitsDeRaíz = 80;
+constexpr std::size_t BitsDeRaíz = 112;
 
 // The sign of p(numerador / denominador), by Horner's rule.
 int DevSigno(Contexto& contexto, const Denso& p, const Entero& numerador,
@@ -26,11 +26,46 @@ int DevSigno(Contexto& contexto, const Denso& p, const Entero& numerador,
     return valor.Signo();
 }
 
-// Whole numbers n stand for n / 2^bits.
+// The same of p(n / 2^BitsDeRaíz), where powers are no more than shifts.
+int DevSigno(Contexto& contexto, const Denso& p, const Entero& n) {
+    Entero valor = p.back();
+    std::size_t bits = 0;
+    for (std::size_t i = p.size() - 1; i-- > 0;) {
+        contexto.Vigila();
+        bits += BitsDeRaíz;
+        valor *= n;
+        if (!p[i].EsCero())
+            valor += p[i].Desplazado(bits);
+    }
+    return valor.Signo();
+}
+
+// The fraction of least denominator from n1/d1 to n2/d2, 0 <= n1/d1 < n2/d2: the part of their
+// continued fractions that both share, and one step more.
+RaízExacta DevMásSimple(Entero n1, Entero d1, Entero n2, Entero d2) {
+    RaízExacta anterior{0, 1, true};
+    RaízExacta fracción{1, 0, true};
+    for (;;) {
+        auto [parte, resto] = Entero::Divide(n1, d1);
+        const bool esEntero = resto.EsCero();
+        const bool esÚltima = esEntero || ((parte + 1) * d2 - n2).Signo() <= 0;
+        const Entero paso = esÚltima && !esEntero ? parte + 1 : parte;
+        anterior.numerador.SumaProducto(paso, fracción.numerador);
+        anterior.denominador.SumaProducto(paso, fracción.denominador);
+        std::swap(anterior, fracción);
+        if (esÚltima)
+            return fracción;
+        // The inverses of what is left stand the other way round.
+        Entero restoAlto = n2 - parte * d2;
+        n1 = std::exchange(d2, std::move(resto));
+        n2 = std::exchange(d1, std::move(restoAlto));
+    }
+}
+
+// Whole numbers n stand for n / 2^BitsDeRaíz.
 class Buscador {
 public:
-    Buscador(Contexto& contexto, const Denso& p, std::size_t bits)
-        : contexto_(contexto), p_(p), bits_(bits), unidad_(Entero(1).Desplazado(bits)) {}
+    Buscador(Contexto& contexto, const Denso& p) : contexto_(contexto), p_(p) {}
 
     std::optional<RaízExacta> Busca(double x, double lejos) {
         const Entero centro = DevPunto(x);
@@ -53,13 +88,13 @@ public:
     }
 
 private:
-    int Signo(const Entero& n) { return DevSigno(contexto_, p_, n, unidad_); }
+    int Signo(const Entero& n) { return DevSigno(contexto_, p_, n); }
 
-    Entero DevPunto(double x) const {
+    static Entero DevPunto(double x) {
         int exponente = 0;
         constexpr int BitsDeDouble = 53;
         const double mantisa = std::ldexp(std::frexp(x, &exponente), BitsDeDouble);
-        exponente += static_cast<int>(bits_) - BitsDeDouble;
+        exponente += static_cast<int>(BitsDeRaíz) - BitsDeDouble;
         const Entero entero = Entero::DesdeDouble(mantisa);
         if (exponente >= 0)
             return entero.Desplazado(static_cast<std::size_t>(exponente));
@@ -81,24 +116,21 @@ private:
                 return Racional(std::move(medio), unidad_);
             (signo == signoBajo_ ? bajo_ : alto_) = std::move(medio);
         }
-        // A rational root's denominator divides the leading coefficient.
-        Entero principal = p_.back();
-        if (principal.Signo() < 0)
-            principal.CambiaSigno();
-        const Entero cerca = Entero::Divide(alto_ * principal, unidad_).cociente;
-        for (const int paso : {-1, 0, 1})
-            if (const Entero numerador = cerca + paso;
-                (numerador * unidad_ - bajo_ * principal).Signo() >= 0 &&
-                (alto_ * principal - numerador * unidad_).Signo() >= 0 &&
-                DevSigno(contexto_, p_, numerador, principal) == 0)
-                return Racional(numerador, principal);
+        // A root of any denominator up to 2^55 is the simplest fraction in so small an interval.
+        const bool esNegativa = bajo_.Signo() < 0;
+        RaízExacta raíz = esNegativa
+                              ? DevMásSimple(Entero(0) - alto_, unidad_, Entero(0) - bajo_, unidad_)
+                              : DevMásSimple(bajo_, unidad_, alto_, unidad_);
+        if (esNegativa)
+            raíz.numerador.CambiaSigno();
+        if (DevSigno(contexto_, p_, raíz.numerador, raíz.denominador) == 0)
+            return raíz;
         return {std::move(bajo_), unidad_, false};
     }
 
     Contexto& contexto_;
     const Denso& p_;
-    std::size_t bits_;
-    Entero unidad_;
+    Entero unidad_ = Entero(1).Desplazado(BitsDeRaíz);
     Entero bajo_, alto_;
     int signoBajo_ = 0;
 };
@@ -155,9 +187,7 @@ Polinomio DivideEntreInexactas(Contexto& contexto, const PolinomioExacto& p,
 
 std::optional<RaízExacta> DevRaízExacta(Contexto& contexto, const Denso& p, double x,
                                         double lejos) {
-    // Fine enough for one multiple of the leading coefficient's inverse at most.
-    const std::size_t bits = std::max(BitsDeRaíz, p.back().Bits() + 2);
-    return Buscador(contexto, p, bits).Busca(x, lejos);
+    return Buscador(contexto, p).Busca(x, lejos);
 }
 
 Polinomio DivideEntreRaíces(Contexto& contexto, const PolinomioExacto& p,

@@ -16,7 +16,7 @@ inline constexpr std::size_t MáximoGradoExacto = 1000;
 struct RaízExacta {
     Entero numerador;
     Entero denominador = 1;
-    bool esRacional = false; // otherwise less than 2^-80 from the root
+    bool esRacional = false; // otherwise less than 2^-112 from the root
 
     double ADouble() const { return DevCociente(numerador, denominador); }
     bool operator==(const RaízExacta&) const = default;

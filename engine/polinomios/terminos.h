@@ -1,5 +1,6 @@
 // Lists of monomials, the stuff of polynomials, with coefficients of either kind: whole numbers or
 // Doubles. A list in order has its highest exponent first and each exponent once.
+// Tested by polinomio_test.cpp.
 #pragma once
 
 #include "engine/base/contexto.h"

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <random>
 
 namespace quiralto {
@@ -213,6 +214,49 @@ TEST_F(Racionales, LoQueNoCabeTerminaConElErrorGeneral) {
     EXPECT_NE(mensajes[0].texto.find("número :14"), std::string::npos);
     EXPECT_EQ(Ejecuta(Factorizar, "X^2-1,-1E308,1E308"), ""); // no such number
     EXPECT_EQ(banco.TomaMensajes().size(), 1U);
+}
+
+TEST_F(Racionales, LaOrdenLargaRespondeAlVigilante) {
+    using Reloj = std::chrono::steady_clock;
+    Reloj::time_point última;
+    Reloj::duration mayor{};
+    banco.vigilante.continúa = [&] {
+        const auto ahora = Reloj::now();
+        mayor = std::max(mayor, ahora - última);
+        última = ahora;
+        return true;
+    };
+    std::string unos = "1";
+    std::string lineales = "X";
+    for (int i = 1; i < 100000; ++i)
+        unos += ",1";
+    for (int i = 1; i < 120; ++i)
+        lineales += ",X+" + std::to_string(i) + "/7";
+    const struct {
+        const char* orden;
+        std::string hoja;
+    } casos[] = {
+        {Máximo, unos},
+        {Mínimo, unos},
+        {Mínimo, lineales},
+        {Simplificar, "(X+1)^900*(X-1)/((X+1)^900*(X+2))"},
+        {Simplificar, "((X+1)^400-1)/((X+2)^400-1)"},
+        {Simplificar, "(X+SQR(2))^900/(X+SQR(3))^900"},
+        {Simplificar, "(X^20000-1)/(X^9999-1)"},
+        {Simplificar, "(X/3+1/7)^300/(X/5+1/9)^299"},
+        {Simplificar, "(X^1E15+1)/(X^99999+X+1)"},
+        {Factorizar, "X^1000-2,-5,5"},
+        {Factorizar, "(X-1/3)^300*(X-2),-5,5"},
+        {Factorizar, "X^30000-X-1,-5,5"},
+        {Factorizar, "(X^2-2)^250*(X-1/7)^100,-5,5"},
+    };
+    for (const auto& caso : casos) {
+        última = Reloj::now();
+        mayor = {};
+        Ejecuta(caso.orden, caso.hoja);
+        banco.vigilante.continúa();
+        EXPECT_LT(mayor, std::chrono::milliseconds(200)) << caso.hoja.substr(0, 40);
+    }
 }
 
 TEST_F(Racionales, CanceladaDejaLaHojaComoEstaba) {
