@@ -263,7 +263,7 @@ double DevGrado(const Polinomio& p) {
 
 bool TieneExponentesNaturales(const Polinomio& p) {
     const auto natural = [](const auto& t) {
-        return t.exponente >= 0 && NoTieneDecimales(t.exponente);
+        return t.exponente >= 0 && EsEntero(t.exponente);
     };
     const PolinomioExacto* const exacto = SiExacto(p);
     return exacto != nullptr ? std::ranges::all_of(exacto->términos, natural)

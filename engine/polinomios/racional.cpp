@@ -55,8 +55,8 @@ Polinomio DevMónico(const Polinomio& común) {
 // Whole, and no point in its general form: 2.5E+20 is whole, but not written as a whole number.
 bool SeEscribeSinPunto(double valor) {
     constexpr double MáximoLlano = 1e15;
-    if (!NoTieneDecimales(valor) || std::fabs(valor) < MáximoLlano)
-        return NoTieneDecimales(valor);
+    if (!EsEntero(valor) || std::fabs(valor) < MáximoLlano)
+        return EsEntero(valor);
     std::int64_t mantisa = DevFormaEntera(valor).mantisa;
     while (mantisa % 10 == 0)
         mantisa /= 10;

@@ -5,6 +5,7 @@
 
 #include "engine/base/contexto.h"
 #include "engine/numeros/entero.h"
+#include "engine/numeros/enteros_en_double.h"
 
 #include <algorithm>
 #include <cmath>
@@ -24,13 +25,6 @@ template <typename Coeficiente, typename Exponente = double> struct Monomio {
     bool operator==(const Monomio&) const = default;
 };
 template <typename Coeficiente> using Monomios = std::vector<Monomio<Coeficiente>>;
-
-// Up to here every whole number is a Double.
-inline constexpr double MáximoEnteroExacto = 9007199254740992;
-
-inline bool NoTieneDecimales(double valor) {
-    return valor == std::floor(valor);
-}
 
 // Above the whole numbers that a Double tells apart, an exponent that is off would collect terms
 // that are not alike: run-time error 6.
@@ -168,7 +162,7 @@ template <typename C> std::size_t DevCeldas(const Monomios<C>& p, const Monomios
     const double base = q.back().exponente;
     const auto conPasoUno = [](const Monomios<C>& términos) {
         return std::ranges::all_of(términos, [&](const Monomio<C>& t) {
-            return NoTieneDecimales(t.exponente - términos.back().exponente);
+            return EsEntero(t.exponente - términos.back().exponente);
         });
     };
     const double celdas =
