@@ -85,6 +85,7 @@ std::vector<std::string_view> DevNombresParecidos(std::string_view nombre) {
     if (llamadas.size() == 1)
         return {cercano};
     std::vector<std::string_view> textos;
+    textos.reserve(llamadas.size());
     for (const Orden* orden : llamadas)
         textos.push_back(orden->texto);
     return textos;

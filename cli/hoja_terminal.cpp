@@ -68,6 +68,7 @@ const Orden* BuscaOrden(const std::string& nombre) {
         return nullptr;
     }
     std::vector<std::string_view> textos;
+    textos.reserve(llamadas.size());
     for (const Orden* orden : llamadas)
         textos.push_back(orden->texto);
     RechazaUso("más de una orden se titula «" + nombre + "»; se esperaba " + EnLista(textos));

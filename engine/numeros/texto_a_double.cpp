@@ -2,12 +2,10 @@
 
 #include <cerrno>
 #include <charconv>
-#include <clocale>
+#include <clocale> // newlocale
 #include <cmath>
-#include <cstdlib>
+#include <cstdlib> // strtod_l
 #include <version>
-
-#include <locale.h> // newlocale, strtod_l
 
 namespace quiralto {
 
