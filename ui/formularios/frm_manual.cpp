@@ -25,6 +25,22 @@ QTextBlock BuscaTítulo(const QTextDocument& documento, const QString& ancla) {
     return {};
 }
 
+// Room above headings; worksheets and terminals on a ground of their own, wrapped.
+void Acomoda(const QTextDocument& documento, const QColor& fondo) {
+    constexpr qreal Hueco = 14;
+    for (QTextBlock bloque = documento.begin(); bloque.isValid(); bloque = bloque.next()) {
+        QTextBlockFormat forma = bloque.blockFormat();
+        if (forma.headingLevel() > 0)
+            forma.setTopMargin(Hueco);
+        if (forma.hasProperty(QTextFormat::BlockCodeFence)) {
+            forma.setBackground(fondo);
+            forma.setLeftMargin(Hueco);
+            forma.setNonBreakableLines(false);
+        }
+        QTextCursor(bloque).setBlockFormat(forma);
+    }
+}
+
 } // namespace
 
 FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window), texto_(new QTextBrowser(this)) {
@@ -40,6 +56,8 @@ FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window), texto_(new QT
     texto_->setOpenLinks(false);
     texto_->setSource(QUrl(QStringLiteral("qrc:/manual/manual.md")),
                       QTextDocument::MarkdownResource);
+    Acomoda(*texto_->document(), palette().color(QPalette::AlternateBase));
+    texto_->moveCursor(QTextCursor::Start);
     auto* fila = new QHBoxLayout;
     fila->addWidget(etiqueta);
     fila->addWidget(buscar, 1);
