@@ -27,6 +27,16 @@ template <typename C> Monomios<C> DevTérminos(const Resto<C>& resto) {
     return términos;
 }
 
+void AñadeProducto(Entero& suma, const Entero& a, const Entero& b) {
+    suma.SumaProducto(a, b);
+}
+void AñadeProducto(double& suma, double a, double b) {
+    Acumulado<double> acumulado;
+    acumulado.Añade(suma, 1);
+    acumulado.Añade(a, b);
+    suma = acumulado.Toma();
+}
+
 // Subtracts factor * X^salto * divisor but for the leading term, which is gone already; `arregla`
 // sees every coefficient that has changed.
 template <typename C, typename Arregla>
@@ -35,7 +45,7 @@ void RestaMúltiplo(Resto<C>& resto, const Monomios<C>& divisor, double salto, c
     for (std::size_t i = 1; i < divisor.size(); ++i) {
         const auto lugar =
             resto.try_emplace(SumaExponentes(divisor[i].exponente, salto), C(0)).first;
-        SumaProducto(lugar->second, divisor[i].coeficiente, menosFactor);
+        AñadeProducto(lugar->second, divisor[i].coeficiente, menosFactor);
         arregla(lugar->second);
         if (EsNulo(lugar->second))
             resto.erase(lugar);
@@ -43,11 +53,10 @@ void RestaMúltiplo(Resto<C>& resto, const Monomios<C>& divisor, double salto, c
     CompruebaCantidad(resto.size());
 }
 
+// Every coefficient of a remainder goes through `redondea`.
+template <typename F>
 División DivideReales(Contexto& contexto, const PolinomioReal& dividendo,
-                      const PolinomioReal& divisor) {
-    const auto redondea = [&](double& c) {
-        c = Redondea(CompruebaFinito(c), contexto.DígitosRedondeo);
-    };
+                      const PolinomioReal& divisor, F redondea) {
     Resto<double> resto = DevResto(dividendo);
     PolinomioReal cociente;
     const Monomio<double>& principal = divisor.front();
@@ -125,10 +134,9 @@ std::optional<División> DivideExactos(Contexto& contexto, const PolinomioExacto
                     DevExacto(std::move(restoFinal), denominador)};
 }
 
-} // namespace
-
-División DividePolinomios(Contexto& contexto, const Polinomio& dividendo,
-                          const Polinomio& divisor) {
+template <typename F>
+División Divide(Contexto& contexto, const Polinomio& dividendo, const Polinomio& divisor,
+                F redondea) {
     if (EsCero(divisor))
         throw ErrorEjecución(DivisiónPorCero);
     const PolinomioExacto* const a = SiExacto(dividendo);
@@ -136,7 +144,20 @@ División DividePolinomios(Contexto& contexto, const Polinomio& dividendo,
     if (a != nullptr && b != nullptr)
         if (auto división = DivideExactos(contexto, *a, *b))
             return *std::move(división);
-    return DivideReales(contexto, AReal(dividendo), AReal(divisor));
+    return DivideReales(contexto, AReal(dividendo), AReal(divisor), redondea);
+}
+
+} // namespace
+
+División DividePolinomios(Contexto& contexto, const Polinomio& dividendo,
+                          const Polinomio& divisor) {
+    return Divide(contexto, dividendo, divisor,
+                  [&](double& c) { c = Redondea(CompruebaFinito(c), contexto.DígitosRedondeo); });
+}
+
+División DivideSinRedondear(Contexto& contexto, const Polinomio& dividendo,
+                            const Polinomio& divisor) {
+    return Divide(contexto, dividendo, divisor, [](double& c) { CompruebaFinito(c); });
 }
 
 } // namespace quiralto

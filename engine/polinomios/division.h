@@ -4,24 +4,7 @@
 
 #include "engine/polinomios/polinomio.h"
 
-#include <utility>
-
 namespace quiralto {
-
-// Other rounding digits for as long as it lives: for steps on the way to a result, which do not
-// show.
-class GuardaDígitos {
-public:
-    GuardaDígitos(Contexto& contexto, int dígitos)
-        : contexto_(contexto), anteriores_(std::exchange(contexto.DígitosRedondeo, dígitos)) {}
-    ~GuardaDígitos() { contexto_.DígitosRedondeo = anteriores_; }
-    GuardaDígitos(const GuardaDígitos&) = delete;
-    GuardaDígitos& operator=(const GuardaDígitos&) = delete;
-
-private:
-    Contexto& contexto_;
-    int anteriores_;
-};
 
 struct División {
     Polinomio cociente;
@@ -32,5 +15,10 @@ struct División {
 // below the divisor's. Exact for exact polynomials; for others every remainder is rounded to
 // DígitosRedondeo. Fault: run-time error 11 for the divisor 0.
 División DividePolinomios(Contexto& contexto, const Polinomio& dividendo, const Polinomio& divisor);
+
+// The same for steps on the way to a result, whatever the size of the numbers: nothing is rounded,
+// and what cancels but for the rounding of Doubles is 0.
+División DivideSinRedondear(Contexto& contexto, const Polinomio& dividendo,
+                            const Polinomio& divisor);
 
 } // namespace quiralto

@@ -88,7 +88,7 @@ std::string TextoFactores(const Contexto& contexto, const std::vector<Raíz>& ra
     return texto;
 }
 
-Polinomio DevCociente(Contexto& contexto, const Polinomio& p, const std::vector<Raíz>& raíces) {
+Polinomio QuitaRaíces(Contexto& contexto, const Polinomio& p, const std::vector<Raíz>& raíces) {
     if (raíces.front().exacta) {
         std::vector<RaízExacta> exactas;
         for (const Raíz& raíz : raíces)
@@ -122,7 +122,7 @@ std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, d
     const std::string factores = TextoFactores(contexto, raíces);
     if (static_cast<double>(raíces.size()) == DevGrado(p))
         return TextoCoeficientePrincipal(contexto, p) + factores;
-    const Polinomio cociente = DevCociente(contexto, p, raíces);
+    const Polinomio cociente = QuitaRaíces(contexto, p, raíces);
     return factores + "*(" + EscribePolinomio(contexto, cociente) + ')';
 }
 

@@ -210,26 +210,55 @@ double DevMayorCoeficiente(const PolinomioReal& p) {
     return mayor;
 }
 
-// Rounding may end the chain in a polynomial that is no divisor at all; one that it has only moved
-// leaves a remainder near the last rounded digit.
+// --- Doubles, whatever their size
+
+constexpr double Tolerancia = 1e-10; // of the largest coefficient: what rounding may leave over
+
+Polinomio ConMayorUno(Contexto& contexto, const Polinomio& p) {
+    const Polinomio mayor = PolinomioReal{{0, DevMayorCoeficiente(AReal(p))}};
+    return DivideSinRedondear(contexto, p, mayor).cociente;
+}
+
+// Without leading terms that are no more than rounding.
+Polinomio SinRuidoDelante(const Polinomio& p, double ruido) {
+    PolinomioReal real = AReal(p);
+    const auto esGrande = [&](const Monomio<double>& t) {
+        return std::fabs(t.coeficiente) > ruido;
+    };
+    real.erase(real.begin(), std::ranges::find_if(real, esGrande));
+    return real;
+}
+
+// The last divisor of the chain of divisions of two that are not 0.
+Polinomio DevÚltimoDivisorReal(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
+    Polinomio dividendo = ConMayorUno(contexto, p);
+    Polinomio divisor = ConMayorUno(contexto, q);
+    if (DevGrado(dividendo) < DevGrado(divisor))
+        std::swap(dividendo, divisor);
+    for (;;) {
+        const auto [cociente, resto] = DivideSinRedondear(contexto, dividendo, divisor);
+        const double ruido = Tolerancia * std::max(1.0, DevMayorCoeficiente(AReal(cociente)));
+        const Polinomio limpio = SinRuidoDelante(resto, ruido);
+        if (EsCero(limpio))
+            return divisor;
+        dividendo = std::exchange(divisor, ConMayorUno(contexto, limpio));
+    }
+}
+
+// The chain may end in a polynomial that is no divisor at all; one that rounding has only moved
+// leaves next to nothing.
 bool DejaPocoResto(Contexto& contexto, const Polinomio& p, const Polinomio& divisor) {
-    constexpr double CifrasDeMargen = 100;
-    constexpr double MáximaTolerancia = 1e-3;
-    const double tolerancia =
-        std::min(MáximaTolerancia, CifrasDeMargen * std::pow(10.0, -contexto.DígitosRedondeo));
-    const Polinomio resto = DividePolinomios(contexto, p, divisor).resto;
-    return DevMayorCoeficiente(AReal(resto)) <= tolerancia * DevMayorCoeficiente(AReal(p));
+    const Polinomio resto = DivideSinRedondear(contexto, p, divisor).resto;
+    return DevMayorCoeficiente(AReal(resto)) <= Tolerancia * DevMayorCoeficiente(AReal(p));
 }
 
 // The quotient of the long division where nothing is left, or of real ones what rounding explains.
 std::optional<Polinomio> DivideSiNoSobra(Contexto& contexto, const Polinomio& dividendo,
                                          const Polinomio& divisor) {
-    constexpr double Ruido = 1e-12;
-    const GuardaDígitos guarda(contexto, MáximoDígitosRedondeo);
-    auto [cociente, resto] = DividePolinomios(contexto, dividendo, divisor);
+    auto [cociente, resto] = DivideSinRedondear(contexto, dividendo, divisor);
     const bool esReal = std::holds_alternative<PolinomioReal>(resto);
     if (!EsCero(resto) && !(esReal && DevMayorCoeficiente(AReal(resto)) <=
-                                          Ruido * DevMayorCoeficiente(AReal(dividendo))))
+                                          Tolerancia * DevMayorCoeficiente(AReal(dividendo))))
         return std::nullopt;
     return std::move(cociente);
 }
@@ -255,15 +284,14 @@ Polinomio MCDPrimitivo(Contexto& contexto, const Polinomio& p, const Polinomio& 
         return DevConstante(1);
     if (const auto exactos = SiExactos(p, q))
         return MCDExacto(contexto, *exactos).DevPrimitivo();
-    const PolinomioReal común = AReal(MCDPolinomios(contexto, p, q));
-    if (común.empty() || común.front().exponente == 0)
+    const PolinomioReal común = AReal(DevÚltimoDivisorReal(contexto, p, q));
+    if (común.front().exponente == 0)
         return DevConstante(1);
     // With the leading coefficient 1 the quotients keep the size of what is divided.
-    Polinomio mónico =
-        DividePolinomios(contexto, común, PolinomioReal{{0, común.front().coeficiente}}).cociente;
-    for (const Polinomio* const dividido : {&p, &q})
-        if (!DejaPocoResto(contexto, AReal(*dividido), mónico))
-            return DevConstante(1);
+    const PolinomioReal principal{{0, común.front().coeficiente}};
+    Polinomio mónico = DivideSinRedondear(contexto, común, principal).cociente;
+    if (!DejaPocoResto(contexto, AReal(p), mónico) || !DejaPocoResto(contexto, AReal(q), mónico))
+        return DevConstante(1);
     return mónico;
 }
 

@@ -1,8 +1,10 @@
 // Common factors of polynomials. Where both polynomials are exact and their exponents are whole
 // numbers from 0 up, nothing here rounds: the greatest common divisor is found modulo primes, put
 // together by the Chinese remainder theorem and confirmed by exact division (von zur Gathen and
-// Gerhard, Modern Computer Algebra, 6.7). Elsewhere it is the last divisor of the chain of
-// divisions in which every intermediate polynomial is rounded to DígitosRedondeo.
+// Gerhard, Modern Computer Algebra, 6.7). Elsewhere MCDPolinomios is the last divisor of the chain
+// of divisions in which every intermediate polynomial is rounded to DígitosRedondeo, and
+// MCDPrimitivo that of a chain in which only what the rounding of Doubles explains counts as
+// nothing.
 #pragma once
 
 #include "engine/polinomios/polinomio.h"

@@ -33,7 +33,7 @@ Polinomio MCMPolinomios(Contexto& contexto, const Polinomio& p, const Polinomio&
         return Positivo(p);
     const Polinomio común = MCDConContenido(contexto, p, q);
     Polinomio mcm =
-        MultiplicaPolinomios(contexto, p, DividePolinomios(contexto, q, común).cociente);
+        MultiplicaPolinomios(contexto, p, DivideSinRedondear(contexto, q, común).cociente);
     return Positivo(std::move(mcm));
 }
 

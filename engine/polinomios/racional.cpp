@@ -22,7 +22,7 @@ Polinomio Por(Contexto& contexto, const Polinomio& p, const Polinomio& q) {
 
 using Suma = Polinomio (*)(const Polinomio&, const Polinomio&);
 
-Racional Combina(Contexto& contexto, const Racional& a, const Racional& b, Suma suma) {
+Racional SumaConDenominadores(Contexto& contexto, const Racional& a, const Racional& b, Suma suma) {
     if (EsPolinomio(a) && EsPolinomio(b))
         return {suma(a.numerador, b.numerador)};
     return {
@@ -81,23 +81,6 @@ Racional ConTérminosVisibles(Contexto& contexto, Racional r) {
     return {Por(contexto, r.numerador, escala), Por(contexto, r.denominador, escala)};
 }
 
-// Both divided by their gcd. That of real ones is looked for with enough digits for the quotients,
-// whatever they are rounded to in the end.
-Racional DivideEntreMCD(Contexto& contexto, const Racional& r) {
-    constexpr int DígitosDeSobra = 10;
-    const int buscados = std::max(contexto.DígitosRedondeo, DígitosDeSobra);
-    Polinomio común;
-    {
-        const GuardaDígitos guarda(contexto, buscados);
-        común = DevMónico(MCDPrimitivo(contexto, r.numerador, r.denominador));
-    }
-    if (EsUno(común))
-        return r;
-    const GuardaDígitos guarda(contexto, MáximoDígitosRedondeo);
-    return {DividePolinomios(contexto, r.numerador, común).cociente,
-            DividePolinomios(contexto, r.denominador, común).cociente};
-}
-
 } // namespace
 
 Racional LeeRacional(const Contexto& contexto, std::string_view texto) {
@@ -120,11 +103,11 @@ std::string SeparaRacional(const Contexto& contexto, const Racional& r) {
 }
 
 Racional SumaRacional(Contexto& contexto, const Racional& a, const Racional& b) {
-    return Combina(contexto, a, b, SumaPolinomios);
+    return SumaConDenominadores(contexto, a, b, SumaPolinomios);
 }
 
 Racional RestaRacional(Contexto& contexto, const Racional& a, const Racional& b) {
-    return Combina(contexto, a, b, RestaPolinomios);
+    return SumaConDenominadores(contexto, a, b, RestaPolinomios);
 }
 
 Racional MultiplicaRacional(Contexto& contexto, const Racional& a, const Racional& b) {
@@ -197,9 +180,13 @@ Racional ReduceRacional(Contexto& contexto, const Racional& r) {
         return {DevConstante(0)};
     if (EsPolinomio(r))
         return r;
-    Racional reducida = DivideEntreMCD(contexto, r);
+    const auto divide = [&](const Polinomio& p, const Polinomio& divisor) {
+        return EsUno(divisor) ? p : DivideSinRedondear(contexto, p, divisor).cociente;
+    };
+    const Polinomio común = DevMónico(MCDPrimitivo(contexto, r.numerador, r.denominador));
+    Racional reducida{divide(r.numerador, común), divide(r.denominador, común)};
     if (EsConstante(reducida.denominador))
-        return {DividePolinomios(contexto, reducida.numerador, reducida.denominador).cociente};
+        return {divide(reducida.numerador, reducida.denominador)};
     return reducida;
 }
 

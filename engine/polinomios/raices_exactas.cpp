@@ -102,7 +102,7 @@ private:
             .cociente;
     }
 
-    static RaízExacta Racional(Entero numerador, Entero denominador) {
+    static RaízExacta Racional(const Entero& numerador, const Entero& denominador) {
         const Entero común = DevMCD(numerador, denominador);
         return {Entero::Divide(numerador, común).cociente,
                 Entero::Divide(denominador, común).cociente, true};
@@ -113,7 +113,7 @@ private:
             Entero medio = Entero::Divide(bajo_ + alto_, 2).cociente;
             const int signo = Signo(medio);
             if (signo == 0)
-                return Racional(std::move(medio), unidad_);
+                return Racional(medio, unidad_);
             (signo == signoBajo_ ? bajo_ : alto_) = std::move(medio);
         }
         // A root of any denominator up to 2^55 is the simplest fraction in so small an interval.

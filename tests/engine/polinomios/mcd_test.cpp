@@ -153,7 +153,7 @@ TEST_F(MCDDePolinomios, LosRealesSiguenLaCadenaRedondeada) {
     const Polinomio q = AReal(Lee("X^2-3*X+2"));
     EXPECT_EQ(Escribe(MCDPolinomios(banco.contexto, p, q)), "3*X-3");
     EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, p, q)), "X-1");
-    const Polinomio ruido = AReal(SumaPolinomios(p, Lee(".000000001*X")));
+    const Polinomio ruido = AReal(SumaPolinomios(p, AReal(PolinomioReal{{1, 1e-12}})));
     EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, ruido, q)), "X-1");
     EXPECT_EQ(Escribe(MCDPrimitivo(banco.contexto, p, AReal(Lee("X^2+X+7")))), "1");
     EXPECT_EQ(Escribe(MCDPolinomios(banco.contexto, Lee("X^1.5-X^.5"), Lee("X^.5"))), "X^.5");
