@@ -6,11 +6,12 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 namespace quiralto {
 namespace {
 
-// A number of so few characters keeps all its digits however it is rounded and written.
+// A number of fewer digits keeps all of them however it is rounded and written.
 constexpr std::size_t Llanos = 14;
 
 // 1, .1, .01, ...
@@ -45,7 +46,7 @@ public:
 private:
     // A sum of terms, each counted with the sign of its side.
     bool LeeLado(int signoDelLado) {
-        int signo = LeeSigno();
+        char signo = LeeSigno();
         do {
             if (!LeeTérmino(signo == '-' ? -signoDelLado : signoDelLado))
                 return false;
@@ -84,30 +85,36 @@ private:
         return índice > 0 && Toma(')');
     }
 
-    // Digits with at most one point, which is not the last of them.
-    bool LeeNúmeroSinSigno(Coeficiente& valor) {
-        std::string texto;
-        std::int64_t mantisa = 0;
-        int decimales = -1; // none
+    // Digits with at most one point, which is not the last of them; the number of decimals.
+    std::optional<std::size_t> LeeDígitos(std::string& dígitos) {
+        std::optional<std::size_t> enteros;
         for (; !resto_.empty() && (EsDígito(resto_.front()) || resto_.front() == '.'); Avanza(1)) {
-            const char c = resto_.front();
-            texto += c;
-            if (c == '.' ? decimales >= 0 : false)
-                return false;
-            decimales += c == '.' || decimales >= 0 ? 1 : 0;
-            if (c != '.' && texto.size() <= Llanos)
-                mantisa = mantisa * 10 + (c - '0');
+            if (resto_.front() != '.')
+                dígitos += resto_.front();
+            else if (std::exchange(enteros, dígitos.size()))
+                return std::nullopt;
         }
-        if (texto.back() == '.')
+        const std::size_t decimales = dígitos.size() - enteros.value_or(dígitos.size());
+        return enteros && decimales == 0 ? std::nullopt : std::optional(decimales);
+    }
+
+    bool LeeNúmeroSinSigno(Coeficiente& valor) {
+        std::string dígitos;
+        const std::optional<std::size_t> decimales = LeeDígitos(dígitos);
+        if (!decimales)
             return false;
-        decimales = std::max(decimales, 0);
-        if (texto.size() <= Llanos && decimales <= contexto_.DígitosRedondeo) {
+        if (dígitos.size() < Llanos &&
+            *decimales <= static_cast<std::size_t>(contexto_.DígitosRedondeo)) {
+            std::int64_t mantisa = 0;
+            for (const char c : dígitos)
+                mantisa = mantisa * 10 + (c - '0');
             valor = mantisa;
-            if (decimales > 0)
-                valor *= Unidades()[static_cast<std::size_t>(decimales)];
+            if (*decimales > 0)
+                valor *= Unidades()[*decimales];
             return true;
         }
-        const NúmeroLeído leído = LeeNúmero(texto);
+        const NúmeroLeído leído =
+            LeeNúmero(dígitos.insert(dígitos.size() - *decimales, *decimales > 0 ? "." : ""));
         if (leído.desborda)
             return false;
         const double redondo = Redondea(leído.valor, contexto_.DígitosRedondeo);
