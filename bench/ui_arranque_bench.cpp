@@ -8,6 +8,7 @@
 
 #include "ui/programa/aplicacion.h"
 #include "ui/programa/arranque.h"
+#include "ui/programa/impresora.h"
 #include "ui/programa/mensajes_ventana.h"
 
 #include <QProcess>
@@ -54,8 +55,8 @@ void AbreVacía(int argc, char** argv, Reloj::rep comienzo) {
 void AbreQuiralto(int argc, char** argv, Reloj::rep comienzo, std::chrono::milliseconds retardo) {
     QApplication aplicación(argc, argv);
     PreparaAplicación(aplicación);
-    MensajesVentana mensajes;
     VigilanteVentana vigilante;
+    MensajesVentana mensajes(vigilante);
     Primos tabla{};
     Contexto contexto(mensajes, vigilante, tabla);
     ImpresoraDelSistema impresora;

@@ -1,7 +1,9 @@
 // A redraw of four functions at 4800 points on 1200x800 logical pixels, in its parts, beside a bare
 // QPainter that draws the same four polylines. The argument is the device pixel ratio.
 
+#include "ui/dibujo/colores.h"
 #include "ui/dibujo/grafica.h"
+#include "ui/dibujo/punto_x.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -28,24 +30,21 @@ public:
     explicit Banco(int escala)
         : escala_(escala), imagen_(1200 * escala, 800 * escala, QImage::Format_RGB32) {
         const char* const funciones[] = {"X^2-4", "5*SIN(3*X)", "X^3/20-X", "4*COS(9*X)+X/3"};
-        vista_.CantidadPuntos = 4800;
-        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
-            std::string texto = funciones[i];
-            vista_.DefineFunción(i, texto);
-            vista_.Activa(i, true);
+        opciones_.CantidadPuntos = 4800;
+        for (int i = 0; i < CantidadFunciones; ++i) {
+            funciones_.Escribe(i, funciones[i]);
+            funciones_.Enciende(i);
         }
         Muestrea();
     }
 
-    void Muestrea() {
-        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-            escena_.puntos.at(static_cast<std::size_t>(i)) = vista_.CargaPuntos(i);
-    }
+    // A new composer has no points of an earlier scene.
+    void Muestrea() { escena_ = Compositor().Compone(contexto_, vista_, funciones_, opciones_); }
 
     void PintaCurvas() {
         QPainter pintor(&imagen_);
         pintor.fillRect(imagen_.rect(), Qt::white);
-        DibujaCurvas(pintor, DevLienzo(), escena_);
+        DibujaCurvas(pintor, DevLienzo(), escena_.cuadro);
     }
 
     void PintaTodo() {
@@ -53,16 +52,16 @@ public:
         QFont fuente = pintor.font();
         fuente.setPixelSize(11 * escala_);
         pintor.setFont(fuente);
-        DibujaGráfica(pintor, DevLienzo(), escena_);
-        DibujaPuntoX(pintor, DevLienzo(), escena_);
+        DibujaGráfica(pintor, DevLienzo(), escena_.cuadro);
+        DibujaPuntoX(pintor, DevLienzo(), escena_.cuadro.ventana, escena_.marcador);
     }
 
     // The polylines in device pixels, ready made.
     std::vector<QPolygonF> DevPolilíneas() const {
         std::vector<QPolygonF> polilíneas;
-        for (const std::vector<Punto>& puntos : escena_.puntos) {
+        for (const Curva& curva : escena_.cuadro.curvas) {
             QPolygonF& polilínea = polilíneas.emplace_back();
-            for (const Punto& punto : puntos)
+            for (const Punto& punto : *curva.puntos)
                 polilínea += DevLienzo().DevLugar(punto.x, punto.y);
         }
         return polilíneas;
@@ -84,8 +83,10 @@ private:
     SinVigilante vigilante_;
     Primos tabla_{};
     Contexto contexto_{mensajes_, vigilante_, tabla_};
-    VentanaGráfica vista_{contexto_};
-    EscenaGráfica escena_;
+    Vista vista_;
+    FuncionesGráficas funciones_{contexto_};
+    Opciones opciones_;
+    Escena escena_;
     int escala_;
     QImage imagen_;
 };

@@ -74,7 +74,7 @@ protected:
 
     void Comprueba() {
         const Ventana& v =
-            dynamic_cast<VisorFunciones&>(Busca<QWidget>("VisorFunciones")).DevEscena().ventana;
+            dynamic_cast<VisorFunciones&>(Busca<QWidget>("VisorFunciones")).DevCuadro().ventana;
         ASSERT_TRUE(std::isfinite(v.XMáx) && std::isfinite(v.XMín) && v.XMín < v.XMáx);
         ASSERT_TRUE(std::isfinite(v.YMáx) && std::isfinite(v.YMín) && v.YMín < v.YMáx);
         for (int i = 0; i < 4; ++i) {

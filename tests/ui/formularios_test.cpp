@@ -1,10 +1,12 @@
 // Help, About, the splash form and the start of the program.
 
 #include "tests/ui/ventana_de_prueba.h"
-#include "ui/formularios/form_ayuda.h"
+#include "ui/formularios/frm_ayuda.h"
 #include "ui/programa/arranque.h"
 
 #include <QElapsedTimer>
+#include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 
 namespace quiralto {
@@ -46,6 +48,16 @@ TEST_F(Formularios, LosSaltosDeLaAyudaSonCrLf) {
     EXPECT_TRUE(texto.contains(QStringLiteral(":\r\n\r\nSON NUMEROS")));
 }
 
+TEST_F(Formularios, ElManualSeAbreDesdeLaAyuda) {
+    QStringList títulos;
+    for (const QAction* acción : Busca<QMenu>("MenúAyuda").actions())
+        títulos += acción->text();
+    EXPECT_EQ(títulos, (QStringList{QStringLiteral("&Contenido"), QStringLiteral("&Manual"),
+                                    QStringLiteral("Acerca de")}));
+    Pulsa("Manual");
+    EXPECT_TRUE(Busca<QWidget>("txtManual").window()->isVisible());
+}
+
 TEST_F(Formularios, AcercaDeNombraElProgramaYSeCierra) {
     EXPECT_EQ(Busca<QAction>("AcercaDe").text(), QStringLiteral("Acerca de"));
     Pulsa("AcercaDe");
@@ -57,18 +69,24 @@ TEST_F(Formularios, AcercaDeNombraElProgramaYSeCierra) {
     auto* cerrar = acerca.findChild<QPushButton*>(QStringLiteral("Command1"));
     ASSERT_NE(cerrar, nullptr);
     EXPECT_EQ(cerrar->text(), QStringLiteral("Cerrar"));
+    const QPointer<QWidget> vigilada(&acerca);
     cerrar->click();
-    EXPECT_FALSE(acerca.isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(vigilada, nullptr); // unloaded
     Pulsa("AcercaDe");
-    EXPECT_TRUE(acerca.isVisible());
+    auto& otra = Busca<QWidget>("forAcercaDe");
+    EXPECT_TRUE(otra.isVisible());
+    QTest::keyClick(&otra, Qt::Key_Escape);
+    EXPECT_FALSE(otra.isVisible());
 }
 
 TEST_F(Formularios, SalirCierraTodosLosFormularios) {
     Pulsa("Contenido");
     Pulsa("AcercaDe");
+    const QPointer<QWidget> acerca(&Busca<QWidget>("forAcercaDe"));
     Pulsa("Salir");
     EXPECT_FALSE(Busca<QWidget>("formAyuda").isVisible());
-    EXPECT_FALSE(Busca<QWidget>("forAcercaDe").isVisible());
+    EXPECT_TRUE(acerca == nullptr || !acerca->isVisible());
     EXPECT_FALSE(formulario.isVisible());
 }
 

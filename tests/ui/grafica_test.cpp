@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace quiralto {
 namespace {
@@ -121,6 +122,9 @@ TEST_F(Gráfica, LaBarraTieneOnceEntradasConIconoYTresSeparadores) {
         if (entrada.isSeparator())
             continue;
         EXPECT_FALSE(entrada.toolTip().isEmpty()) << i;
+        auto& botón = Busca<QToolButton>(("Toolbar1_" + std::to_string(i)).c_str());
+        EXPECT_EQ(botón.defaultAction(), &entrada) << i;
+        EXPECT_EQ(botón.text(), entrada.toolTip()) << i; // the full caption, as its name too
         EXPECT_FALSE(entrada.icon().pixmap(24).isNull()) << i;
     }
 }
@@ -185,9 +189,9 @@ TEST_F(Gráfica, ElNúmeroDePuntosSeElige) {
     Define(0, "X");
     const auto puntos = [&] {
         return dynamic_cast<VisorFunciones&>(Busca<QWidget>("VisorFunciones"))
-            .DevEscena()
-            .puntos[0]
-            .size();
+            .DevCuadro()
+            .curvas[0]
+            .puntos->size();
     };
     EXPECT_NEAR(static_cast<double>(puntos()), 301, 1);
     for (int i = 0; i < 6; ++i) {
@@ -237,7 +241,7 @@ TEST_F(Gráfica, AlSalirDeLaCajaSeCompruebaLoCambiado) {
     Espera();
     EXPECT_TRUE(TomaMensajes().empty());
     EXPECT_EQ(DevTexto("txtfx_1"), QStringLiteral("X*2"));
-    EXPECT_FALSE(EstáActiva(1));
+    EXPECT_TRUE(EstáActiva(1));
 }
 
 TEST_F(Gráfica, ElClicEnLaCasillaCompruebaUnaSolaVez) {
@@ -279,23 +283,6 @@ TEST_F(Gráfica, AlCerrarNoHayMensajes) {
     Espera();
     EXPECT_TRUE(TomaMensajes().empty());
     EXPECT_FALSE(formulario.isVisible());
-}
-
-TEST_F(Gráfica, UnaFórmulaErróneaSeMarcaMientrasSeTeclea) {
-    auto& caja = dynamic_cast<CajaFórmula&>(Busca<QLineEdit>("txtfx_0"));
-    const QColor base = caja.palette().color(QPalette::Base);
-    Teclea("txtfx_0", "x");
-    EXPECT_FALSE(caja.EsErrónea());
-    Teclea("txtfx_0", "+");
-    QTest::keyClick(&caja, Qt::Key_End);
-    QTest::keyClicks(&caja, QStringLiteral("+"));
-    EXPECT_TRUE(caja.EsErrónea());
-    EXPECT_NE(caja.palette().color(QPalette::Base), base);
-    EXPECT_FALSE(caja.accessibleDescription().isEmpty());
-    QTest::keyClicks(&caja, QStringLiteral("2"));
-    EXPECT_FALSE(caja.EsErrónea());
-    EXPECT_EQ(caja.palette().color(QPalette::Base), base);
-    EXPECT_TRUE(TomaMensajes().empty());
 }
 
 TEST_F(Gráfica, LosBlancosNoSeTecleanEnLasCajas) {

@@ -76,8 +76,8 @@ TEST_F(HojaEnVentana, ElTextoSeTomaComoEstá) {
 
 TEST_F(HojaEnVentana, CadaOrdenTieneSuEntradaConSuTítulo) {
     QStringList títulos;
-    for (const QAction* acción : Busca<QMenu>("MenúHoja").findChildren<QAction*>())
-        if (acción->menu() == nullptr && !acción->isSeparator())
+    for (const QMenu* familia : Busca<QMenu>("MenúHoja").findChildren<QMenu*>())
+        for (const QAction* acción : familia->actions())
             títulos += acción->text();
     QStringList esperados;
     for (const Orden& orden : DevÓrdenes())

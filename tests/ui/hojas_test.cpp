@@ -15,7 +15,7 @@ TEST_P(HojasPorVentana, QuedanComoSeEspera) {
     const HojaDorada dorada = CargaHojaDorada(GetParam());
     contexto.DígitosRedondeo = dorada.cifras;
     txtSalida.setPlainText(DevQString(dorada.hoja));
-    formulario.EjecutaOrden(dorada.orden);
+    formulario.findChild<Ejecutor*>()->Ejecuta(dorada.orden);
     EXPECT_EQ(DevTexto(), dorada.queda);
     std::optional<std::string> seleccionada;
     if (txtSalida.textCursor().hasSelection())

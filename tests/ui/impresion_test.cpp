@@ -153,5 +153,17 @@ TEST_F(Impresión, UnaImpresoraInservibleSeAvisa) {
               std::vector{(Mensaje{Icono::Exclamación, "No se puede imprimir"})});
 }
 
+// A full device, which takes every file and keeps none of it.
+TEST_F(Impresión, UnDiscoLlenoSeAvisa) {
+    impresora.fichero = QStringLiteral("/dev/full");
+    Define(0, "X");
+    for (const char* acción : {"ImprimirTexto", "ImprimirGráfica"}) {
+        Pulsa(acción);
+        EXPECT_EQ(std::exchange(grabados.mensajes, {}),
+                  std::vector{(Mensaje{Icono::Exclamación, "No se puede imprimir"})})
+            << acción;
+    }
+}
+
 } // namespace
 } // namespace quiralto

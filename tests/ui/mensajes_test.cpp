@@ -11,7 +11,8 @@ namespace quiralto {
 namespace {
 
 TEST(MensajesVentana, MuestraElTextoConSuIconoTítuloYAceptar) {
-    MensajesVentana mensajes;
+    VigilanteVentana vigilante;
+    MensajesVentana mensajes(vigilante);
     for (const auto& caso : {std::pair{Icono::Exclamación, QMessageBox::Warning},
                              {Icono::Crítico, QMessageBox::Critical},
                              {Icono::Ninguno, QMessageBox::NoIcon}}) {
@@ -32,7 +33,8 @@ TEST(MensajesVentana, MuestraElTextoConSuIconoTítuloYAceptar) {
 }
 
 TEST(MensajesVentana, EscapeLaCierra) {
-    MensajesVentana mensajes;
+    VigilanteVentana vigilante;
+    MensajesVentana mensajes(vigilante);
     EXPECT_EQ(ConDiálogos([&] { mensajes.Muestra(Icono::Ninguno, "a"); },
                           [](QWidget& diálogo) { diálogo.close(); }),
               1);

@@ -103,11 +103,29 @@ TEST_F(Teclas, LasTeclasMuertasPasanPorElFiltro) {
 
 TEST_F(Teclas, LoPegadoSeHaceMayúsculasHastaElApóstrofo) {
     Pega(QStringLiteral("sin(x), 1 'nota ñ\n  'otra nota\nx^2,ñ\r\ncos(x)'fin"));
-    EXPECT_EQ(caja.toPlainText(),
-              QStringLiteral("SIN(X), 1 'nota ñ\n  'otra nota\nX^2,Ñ\nCOS(X)'fin"));
+    EXPECT_EQ(caja.toPlainText(), QStringLiteral("SIN(X),1'nota ñ\n'otra nota\nX^2,Ñ\nCOS(X)'fin"));
     EXPECT_EQ(pitidos, 0);
     QTest::keyClick(&caja, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(caja.toPlainText(), QString());
+}
+
+TEST_F(Teclas, LoPegadoPierdeSusBlancosFueraDeLosComentarios) {
+    const struct {
+        const char* pegado;
+        const char* queda;
+    } casos[] = {
+        {"x ^ 2 , -5,\t5", "X^2,-5,5"},
+        {" 2*x + 1 ' dos y uno ", "2*X+1' dos y uno "},
+        {"' todo esto se queda ", "' todo esto se queda "},
+        {"Simplificación :(X+1)/(X-1)", "Simplificación :(X+1)/(X-1)"},
+        {"'Solución en X= 2\n\nx", "'Solución en X= 2\n\nX"},
+    };
+    for (const auto& caso : casos) {
+        caja.clear();
+        Pega(QString::fromUtf8(caso.pegado));
+        EXPECT_EQ(caja.toPlainText(), QString::fromUtf8(caso.queda)) << caso.pegado;
+    }
+    EXPECT_EQ(pitidos, 0);
 }
 
 TEST_F(Teclas, LoPegadoEnUnComentarioQuedaComoEstá) {
@@ -130,7 +148,7 @@ TEST_F(Teclas, LoSoltadoSeHaceMayúsculas) {
 }
 
 TEST_F(Teclas, UnaFórmulaQueNoCabeSeCortaConPitido) {
-    CajaFórmula fórmula(nullptr, [this] { ++pitidos; });
+    CajaFormula fórmula(nullptr, [this] { ++pitidos; });
     const int cabe = fórmula.maxLength();
     QApplication::clipboard()->setText(QString(cabe, u'1'));
     fórmula.paste();

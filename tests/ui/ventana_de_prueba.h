@@ -6,10 +6,12 @@
 #include "tests/apoyo.h"
 #include "ui/dibujo/texto_qt.h"
 #include "ui/formularios/frm_graficas.h"
+#include "ui/programa/vigilante_ventana.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 #include <gtest/gtest.h>
@@ -46,7 +48,13 @@ protected:
         return *control;
     }
 
-    void Pulsa(const char* acción) { Busca<QAction>(acción).trigger(); }
+    // Triggers an action, or clicks the toolbar's button of that name.
+    void Pulsa(const char* nombre) {
+        if (auto* botón = formulario.findChild<QToolButton*>(QString::fromUtf8(nombre)))
+            botón->click();
+        else
+            Busca<QAction>(nombre).trigger();
+    }
 
     QString DevTexto(const char* caja) { return Busca<QLineEdit>(caja).text(); }
 
@@ -83,7 +91,7 @@ protected:
     Primos tabla{};
     Contexto contexto{grabados, vigilante, tabla};
     ImpresoraDePrueba impresora;
-    frmGráficas formulario{contexto, vigilante, impresora};
+    FrmGráficas formulario{contexto, vigilante, impresora};
     QPlainTextEdit& txtSalida = Busca<QPlainTextEdit>("txtSalida");
 };
 

@@ -2,6 +2,7 @@
 
 #include "tests/ui/dialogos.h"
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/programa/mensajes_ventana.h"
 
 #include <QElapsedTimer>
 #include <QProgressDialog>
@@ -61,6 +62,37 @@ TEST(VigilanteVentana, TrasUnSegundoMuestraElDiálogoYSeCancela) {
     EXPECT_FALSE(vigilante.EnMarcha());
 }
 
+// The user may take any time over a message: none of it counts, and no dialog stands beside it.
+TEST(VigilanteVentana, MientrasHayUnMensajeElRelojEstáParado) {
+    VigilanteVentana vigilante(300ms);
+    MensajesVentana mensajes(vigilante);
+    std::vector<QString> vistos;
+    ConDiálogos(
+        [&] {
+            const VigilanteVentana::Guardia guardia(vigilante);
+            EXPECT_TRUE(Trabaja(vigilante, 100ms));
+            mensajes.Muestra(Icono::Exclamación, "uno");
+            EXPECT_TRUE(Trabaja(vigilante, 100ms));
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+            EXPECT_TRUE(Trabaja(vigilante, 300ms)); // now it is there
+            EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+            mensajes.Muestra(Icono::Exclamación, "otro");
+        },
+        [&](QWidget& diálogo) {
+            if (diálogo.objectName() == QStringLiteral("frmProgreso")) {
+                vistos.emplace_back(QStringLiteral("progreso"));
+                return;
+            }
+            vistos.push_back(dynamic_cast<QMessageBox&>(diálogo).text());
+            for (const QWidget* ventana : QApplication::topLevelWidgets())
+                EXPECT_NE(ventana->objectName(), QStringLiteral("frmProgreso"));
+            QTest::qWait(500);
+            Acepta(diálogo);
+        });
+    EXPECT_EQ(vistos, (std::vector<QString>{QStringLiteral("uno"), QStringLiteral("progreso"),
+                                            QStringLiteral("otro")}));
+}
+
 // A message sink that works for a while before it records, as a long command would.
 class MensajesLentos : public Mensajes {
 public:
@@ -82,13 +114,14 @@ TEST(VigilanteVentana, UnaOrdenCanceladaDejaLaHojaYNoEmpiezaOtraDebajo) {
     Primos tabla{};
     Contexto contexto(mensajes, vigilante, tabla);
     ImpresoraDePrueba impresora;
-    frmGráficas formulario(contexto, vigilante, impresora);
+    FrmGráficas formulario(contexto, vigilante, impresora);
     formulario.show();
     auto* hoja = formulario.findChild<QPlainTextEdit*>(QStringLiteral("txtSalida"));
     hoja->setPlainText(QStringLiteral("X+"));
-    const int vistos = ConDiálogos([&] { formulario.EjecutaOrden("Hallar máximos"); },
+    auto* máximos = formulario.findChild<QAction*>(QStringLiteral("HallarMáximos"));
+    const int vistos = ConDiálogos([&] { máximos->trigger(); },
                                    [&](QWidget& diálogo) {
-                                       formulario.EjecutaOrden("Hallar máximos");
+                                       máximos->trigger();
                                        EXPECT_EQ(mensajes.mostrados, 1);
                                        dynamic_cast<QProgressDialog&>(diálogo).cancel();
                                    });

@@ -1,6 +1,8 @@
 // The picture, pixel by pixel.
 
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/dibujo/colores.h"
+#include "ui/dibujo/grafica.h"
 
 #include <QClipboard>
 #include <QWheelEvent>
@@ -236,13 +238,15 @@ TEST_F(Visor, LaDescripciónDiceLoQueSeVe) {
 
 // Twice the pixels, not twice the size of each: a line stays one logical pixel wide.
 TEST(Dibujo, EsNítidoConEscala2) {
-    EscenaGráfica escena;
+    ListaPuntos puntos;
     for (int i = 0; i <= 100; ++i)
-        escena.puntos[3].push_back({static_cast<float>(i) / 5 - 10, 5});
+        puntos.push_back({static_cast<float>(i) / 5 - 10, 5});
+    Cuadro cuadro;
+    cuadro.curvas[3].puntos = std::make_shared<const ListaPuntos>(puntos);
     for (const int escala : {1, 2, 3}) {
         QImage imagen(600 * escala, 400 * escala, QImage::Format_RGB32);
         QPainter pintor(&imagen);
-        DibujaGráfica(pintor, {QRectF(imagen.rect()), static_cast<qreal>(escala)}, escena);
+        DibujaGráfica(pintor, {QRectF(imagen.rect()), static_cast<qreal>(escala)}, cuadro);
         pintor.end();
         int filas = 0;
         for (int y = 0; y < imagen.height(); ++y)

@@ -1,78 +1,101 @@
 #include "ui/formularios/control_grafica.h"
 
+#include "engine/base/fallos.h"
 #include "engine/numeros/numero.h"
 #include "ui/dibujo/texto_qt.h"
 #include "ui/formularios/marco_barra.h"
 #include "ui/grafica/marcas_eje.h"
 
-#include <QAccessible>
-#include <QLabel>
-
 #include <algorithm>
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace quiralto {
 namespace {
 
-constexpr int DécimasPorUnidad = 10;     // of the bar of the point X
-constexpr double PartesDelRango = 10000; // to which the window is written in words
-constexpr double PasosPorUnidad = 1000;  // likewise a unit of the axes
+constexpr int DécimasPorUnidad = 10; // of the bar of the point X
 
 using C = ControlGráfica;
 
-QString DevNúmero(double valor) {
-    return DevQString(TextoNúmero(valor));
+void PonTexto(QLabel& etiqueta, const QString& texto) {
+    if (etiqueta.text() != texto)
+        etiqueta.setText(texto);
 }
 
 } // namespace
 
-ControlGráfica::ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Partes partes)
-    : contexto_(contexto), vista_(vista), partes_(partes) {
-    partes_.visor.deseos = {
-        .fijarX =
-            [this](double x) { // no finer than a pixel, as it is shown under the pointer
-                PonPuntoX(Val(TextoCoordenada(x, partes_.visor.DevSeparación().x())));
-            },
-        .moverX =
-            [this](double pasos) {
-                const double s = DevXlógico(vista_.DevVentana(), vista_.DevPuntoX());
-                const double nueva = std::round(s * DécimasPorUnidad + pasos) / DécimasPorUnidad;
-                PonPuntoX(
-                    DevXfísico(vista_.DevVentana(), std::clamp(nueva, -MediaEscala, MediaEscala)));
-            },
-        .zoom =
-            [this](double x, double y, double factor) {
-                ConTrampa([&] { return vista_.ZoomEn(x, y, factor); }, {&C::ActualizaTodo});
-            },
-        .desplazar =
-            [this](double dx, double dy) {
-                ConTrampa([&] { return vista_.Desplaza(dx, dy); }, {&C::ActualizaTodo});
-            },
-        .zoomGráfica = [this](int índice) { ZoomGráfica_Click(índice); },
-        .señalar = [this](const std::optional<QPointF>& lugar) { Señala(lugar); },
-    };
+ControlGráfica::ControlGráfica(Contexto& contexto, Ejecutor& ejecutor, const Partes& partes,
+                               QObject* padre)
+    : QObject(padre), contexto_(contexto), ejecutor_(ejecutor), partes_(partes),
+      funciones_(contexto) {
+    ConectaVisor();
+    connect(&partes_.panel, &PanelFunciones::escrita, this, &C::AlEscribir);
+    connect(&partes_.panel, &PanelFunciones::confirmada, this, &C::AlConfirmar);
+    connect(&partes_.panel, &PanelFunciones::abandonada, this, &C::AlAbandonar);
+    connect(&partes_.panel, &PanelFunciones::conmutada, this, &C::AlConmutar);
+    connect(&partes_.marco, &FrmPuntosExtremos::aceptados, this, &C::FijaExtremos);
+    pausa_.setSingleShot(true);
+    pausa_.setInterval(Pausa);
+    connect(&pausa_, &QTimer::timeout, this, &C::AlPararse);
 }
 
-template <typename Cambio> bool ControlGráfica::ConTrampa(Cambio cambia, Pasos pasos) {
+void ControlGráfica::ConectaVisor() {
+    VisorFunciones* const visor = &partes_.visor;
+    connect(visor, &VisorFunciones::fijaX, this, [this](double x) {
+        // no finer than a pixel, as it is shown under the pointer
+        PonPuntoX(Val(TextoCoordenada(x, partes_.visor.DevSeparación().x())));
+    });
+    connect(visor, &VisorFunciones::mueveX, this, &C::MuevePuntoX);
+    connect(visor, &VisorFunciones::zoom, this, [this](const QPointF& centro, double factor) {
+        ConTrampa(
+            [this, centro, factor] {
+                return vista_.ZoomEn({centro.x(), centro.y()}, factor);
+            },
+            {&C::DibujarActivadas});
+    });
+    connect(visor, &VisorFunciones::desplaza, this, [this](const QPointF& distancia) {
+        ConTrampa([this, distancia] { return vista_.Desplaza(distancia.x(), distancia.y()); },
+                  {&C::DibujarActivadas});
+    });
+    connect(visor, &VisorFunciones::zoomGrafica, this, &C::ZoomGráfica_Click);
+    connect(visor, &VisorFunciones::apunta, this, [this](const QPointF& lugar) { Señala(lugar); });
+    connect(visor, &VisorFunciones::noApunta, this, [this] { Señala(std::nullopt); });
+}
+
+void ControlGráfica::ConTrampa(Cambio cambia, Pasos pasos, Luego luego) {
+    ejecutor_.CuandoAcabe(
+        [this, cambia = std::move(cambia), pasos = std::move(pasos), luego = std::move(luego)] {
+            const bool bien = Atiende(cambia, pasos);
+            if (luego)
+                luego(bien);
+        });
+}
+
+bool ControlGráfica::Atiende(const Cambio& cambia, const Pasos& pasos) {
+    vista_.SalvaValores();
     try {
         if (!cambia())
             return false;
-        Refresca(pasos);
+        Muestra(pasos);
         return true;
     } catch (const ErrorEjecución& error) {
         MensajeErrorOverflow(error.Número());
+    } catch (const std::bad_alloc&) {
+        MensajeErrorOverflow(MemoriaInsuficiente);
     }
     return false;
 }
 
-void ControlGráfica::Refresca(Pasos pasos) {
-    for (const auto paso : pasos)
-        (this->*paso)();
+void ControlGráfica::Muestra(const Pasos& pasos) {
+    escena_ = compositor_.Compone(contexto_, vista_, funciones_, opciones_);
+    Refresca(pasos);
+    CopiaLoQueDifiere();
 }
 
-void ControlGráfica::ActualizaTodo() {
-    Refresca({&C::ActualizaX, &C::ActualizaUnidadEjesXY, &C::ActualizaZoom, &C::ActualizaExtremos,
-              &C::ActualizaEjes, &C::ActualizaFunciones, &C::DibujarActivadas});
+void ControlGráfica::Refresca(const Pasos& pasos) {
+    for (const Paso paso : pasos)
+        (this->*paso)();
 }
 
 void ControlGráfica::MensajeErrorOverflow(int número) {
@@ -84,71 +107,92 @@ void ControlGráfica::MensajeErrorOverflow(int número) {
         return;
     }
     vista_.RecuperaValores();
-    ActualizaTodo();
+    Muestra({});
 }
 
 void ControlGráfica::Comienza() {
-    vista_.ValoresPorDefecto();
-    Refresca({&C::ActualizaX, &C::ActualizaExtremos, &C::ActualizaFunciones, &C::ActualizaZoom});
-    contexto_.DígitosRedondeo = DígitosRedondeoIniciales;
-    vista_.CantidadPuntos = CantidadPuntosInicial;
-    Refresca({&C::ActualizaUnidadEjesXY, &C::ActualizaEjes, &C::DibujarActivadas});
+    const auto empieza = [this] {
+        vista_.ValoresPorDefecto();
+        contexto_.DígitosRedondeo = DígitosRedondeoIniciales;
+        opciones_ = {};
+        return true;
+    };
+    ConTrampa(empieza,
+              {&C::ActualizaX, &C::ActualizaExtremos, &C::ActualizaFunciones, &C::ActualizaZoom});
 }
 
 void ControlGráfica::ZoomGráfica_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomGráfica(índice); },
-              {&C::ActualizaUnidadEjesXY, &C::ActualizaExtremos, &C::ActualizaEjes,
-               &C::DibujarActivadas, &C::ActualizaZoom});
+    ConTrampa(
+        [this, índice] {
+            return vista_.ZoomGráfica(índice,
+                                      funciones_.DevPrimeraFunciónDefinida(vista_.DevPuntoX()));
+        },
+        {&C::ActualizaUnidadEjesXY, &C::ActualizaExtremos, &C::ActualizaEjes,
+         &C::DibujarActivadas});
 }
 
 void ControlGráfica::ZoomEjeX_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjeX(índice); }, {&C::ActualizaTodo});
+    ConTrampa([this, índice] { return vista_.ZoomEjeX(índice); }, {&C::DibujarActivadas});
 }
 
 void ControlGráfica::ZoomEjeY_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjeY(índice); }, {&C::ActualizaTodo});
+    ConTrampa([this, índice] { return vista_.ZoomEjeY(índice); }, {&C::DibujarActivadas});
 }
 
 void ControlGráfica::ZoomEjesXY_Click(int índice) {
-    ConTrampa([&] { return vista_.ZoomEjesXY(índice); }, {&C::ActualizaTodo});
+    ConTrampa([this, índice] { return vista_.ZoomEjesXY(índice); }, {&C::DibujarActivadas});
 }
 
 void ControlGráfica::ValoresPorDefectoEjes_Click() {
-    ConTrampa([&] { return vista_.ValoresPorDefecto(); },
+    ConTrampa([this] { return vista_.ValoresPorDefecto(); },
               {&C::ActualizaExtremos, &C::ActualizaUnidadEjesXY, &C::ActualizaEjes,
-               &C::DibujarActivadas, &C::ActualizaZoom});
+               &C::DibujarActivadas});
 }
 
-bool ControlGráfica::FijaExtremos(const Ventana& ventana) {
-    return ConTrampa([&] { return vista_.FijaExtremos(ventana); },
-                     {&C::ActualizaExtremos, &C::ActualizaUnidadEjesXY, &C::ActualizaX,
-                      &C::ActualizaFunciones, &C::ActualizaZoom, &C::ActualizaEjes,
-                      &C::DibujarActivadas});
+void ControlGráfica::FijarPuntosExtremos_Click() {
+    partes_.marco.VerMarcoConfiguraciónPuntosExtremos(escena_.textosExtremos);
+}
+
+void ControlGráfica::FijaExtremos(const Ventana& ventana) {
+    ConTrampa([this, ventana] { return vista_.FijaExtremos(ventana); },
+              {&C::ActualizaExtremos, &C::ActualizaUnidadEjesXY, &C::ActualizaX,
+               &C::ActualizaFunciones, &C::ActualizaZoom, &C::ActualizaEjes, &C::DibujarActivadas},
+              [this](bool bien) {
+                  if (!bien) {
+                      partes_.marco.VuelveA(0);
+                      return;
+                  }
+                  partes_.marco.OcultarMarcoConfiguraciónPuntosExtremos();
+                  CopiaExtremos();
+              });
 }
 
 void ControlGráfica::NúmeroPuntos_Click(int índice) {
-    const int cantidad = 150 << índice;
-    if (cantidad == vista_.CantidadPuntos)
-        return;
-    vista_.CantidadPuntos = cantidad;
-    DibujarActivadas();
+    constexpr int Menor = 150;
+    const auto cambia = [this, cantidad = Menor << índice] {
+        return std::exchange(opciones_.CantidadPuntos, cantidad) != cantidad;
+    };
+    ConTrampa(cambia, {&C::DibujarActivadas});
+}
+
+void ControlGráfica::RedondeoNúmeros_Click(int índice) {
+    ConTrampa([this, índice] { return std::exchange(contexto_.DígitosRedondeo, índice) != índice; },
+              {});
 }
 
 void ControlGráfica::PonMétodo(MétodoDibujo método) {
-    if (método == vista_.método)
-        return;
-    vista_.método = método;
-    DibujarActivadas();
+    ConTrampa([this, método] { return std::exchange(opciones_.método, método) != método; },
+              {&C::DibujarActivadas});
 }
 
 void ControlGráfica::hsEjeX_Change(int valor) {
-    ConTrampa([&] { return vista_.DesplazaX(valor); },
+    ConTrampa([this, valor] { return vista_.DesplazaX(valor); },
               {&C::ActualizaX, &C::ActualizaZoom, &C::ActualizaExtremos, &C::ActualizaEjes,
                &C::ActualizaFunciones, &C::DibujarActivadas});
 }
 
 void ControlGráfica::vsEjeY_Change(int valor) {
-    ConTrampa([&] { return vista_.DesplazaY(valor); },
+    ConTrampa([this, valor] { return vista_.DesplazaY(valor); },
               {&C::ActualizaZoom, &C::ActualizaExtremos, &C::ActualizaEjes, &C::DibujarActivadas});
 }
 
@@ -156,88 +200,139 @@ void ControlGráfica::hsx_Change(int valor) {
     PonPuntoX(DevXfísico(vista_.DevVentana(), static_cast<double>(valor) / DécimasPorUnidad));
 }
 
+void ControlGráfica::MuevePuntoX(double pasos) {
+    const double s = DevXlógico(vista_.DevVentana(), vista_.DevPuntoX());
+    const double nueva = std::round(s * DécimasPorUnidad + pasos) / DécimasPorUnidad;
+    PonPuntoX(DevXfísico(vista_.DevVentana(), std::clamp(nueva, -MediaEscala, MediaEscala)));
+}
+
 void ControlGráfica::PonPuntoX(double x) {
-    ConTrampa([&] { return vista_.PonPuntoX(x); },
+    ConTrampa([this, x] { return vista_.PonPuntoX(x); },
               {&C::ActualizaX, &C::ActualizaZoom, &C::ActualizaFunciones});
 }
 
-void ControlGráfica::FuncionesCambiadas() {
-    Refresca({&C::ActualizaFunciones, &C::ActualizaZoom, &C::DibujarActivadas});
-}
-
-void ControlGráfica::ActualizaX() {
-    partes_.panel.ActualizaX();
-}
-
-void ControlGráfica::ActualizaFunciones() {
-    partes_.panel.ActualizaFunciones();
-}
-
-void ControlGráfica::ActualizaExtremos() {
-    partes_.marco.ActualizaExtremos(vista_.DevVentana());
-}
-
-// The view derives the units from its window; shown is what a step of the axes' bars is worth.
-void ControlGráfica::ActualizaUnidadEjesXY() {
-    const auto muestra = [](QScrollBar& barra, double unidad) {
-        barra.setStatusTip(QStringLiteral("Un paso desplaza ") +
-                           DevQString(TextoCoordenada(unidad, unidad / PasosPorUnidad)));
+// A text that could still become a formula is neither told nor announced until a pause.
+void ControlGráfica::AlEscribir(int índice, const QString& texto) {
+    const auto escribe = [this, índice, texto] {
+        funciones_.Escribe(índice, DevUtf8(texto));
+        if (funciones_[índice].estado == EstadoTexto::MediaEscrita)
+            pausa_.start();
+        else
+            pausa_.stop();
+        return true;
     };
-    muestra(partes_.hsEjeX, vista_.UnidadX());
-    muestra(partes_.vsEjeY, vista_.UnidadY());
+    ConTrampa(escribe, {});
 }
 
-// What tells where the view is: the bar and the marker of the point X, the window in words, and
-// what lies under the pointer.
-void ControlGráfica::ActualizaZoom() {
-    const Ventana& v = vista_.DevVentana();
-    escena_.PuntoX = vista_.DevPuntoX();
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        escena_.valores.at(static_cast<std::size_t>(i)) = vista_.DevValor(i);
-    partes_.visor.MueveMarcador(escena_);
-    const double s = DevXlógico(v, escena_.PuntoX);
-    PonBarra(partes_.hsx, static_cast<int>(std::lround(std::clamp(s, -MediaEscala, MediaEscala) *
-                                                       DécimasPorUnidad)));
-    const double porX = (v.XMáx - v.XMín) / PartesDelRango;
-    const double porY = (v.YMáx - v.YMín) / PartesDelRango;
-    const auto texto = [](double valor, double separación) {
-        return DevQString(TextoCoordenada(valor, separación));
+void ControlGráfica::AlPararse() {
+    CopiaZoom();
+    CopiaMotivos();
+}
+
+// Enter is the wish to see the function.
+void ControlGráfica::AlConfirmar(int índice) {
+    const auto confirma = [this, índice] {
+        pausa_.stop();
+        if (funciones_.Asienta(índice))
+            funciones_.Enciende(índice);
+        return true;
     };
-    partes_.zoom.setText(QStringLiteral("X de %1 a %2 · Y de %3 a %4")
-                             .arg(texto(v.XMín, porX), texto(v.XMáx, porX), texto(v.YMín, porY),
-                                  texto(v.YMáx, porY)));
-    Describe();
+    ConTrampa(confirma, {}, [this, índice](bool) {
+        if (!funciones_[índice].encendida)
+            partes_.panel.VuelveA(índice);
+    });
 }
 
-void ControlGráfica::ActualizaEjes() {
-    escena_.ventana = vista_.DevVentana();
+// Whoever empties a box wants no function, and no message about it.
+void ControlGráfica::AlAbandonar(int índice) {
+    const auto deja = [this, índice] {
+        const FunciónGráfica& función = funciones_[índice];
+        if (!función.sinAsentar)
+            return false;
+        pausa_.stop();
+        if (función.estado == EstadoTexto::Vacío)
+            funciones_.Quita(índice);
+        else if (funciones_.Asienta(índice) && !función.apagadaAquí)
+            funciones_.Enciende(índice);
+        return true;
+    };
+    ConTrampa(deja, {}, [this, índice](bool bien) {
+        if (bien && funciones_[índice].rechazo)
+            partes_.panel.VuelveA(índice);
+    });
 }
 
-void ControlGráfica::DibujarActivadas() {
-    escena_.método = vista_.método;
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-        escena_.puntos.at(static_cast<std::size_t>(i)) =
-            vista_.EstáActiva(i) ? vista_.CargaPuntos(i) : std::vector<Punto>{};
-    partes_.visor.Muestra(escena_);
-    Señala(puntero_);
-}
-
-// The picture in words, for whoever does not see it.
-void ControlGráfica::Describe() {
-    QString texto = partes_.zoom.text() + QStringLiteral(". Punto X=") +
-                    DevQString(TextoEnRango(escena_.PuntoX, vista_.DevAncho()));
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
-        if (!vista_.EstáActiva(i))
-            continue;
-        const std::optional<double> valor = escena_.valores.at(static_cast<std::size_t>(i));
-        texto += QStringLiteral(". f%1(X)=%2, ").arg(i).arg(DevQString(vista_.DevTexto(i)));
-        texto += valor ? QStringLiteral("en X vale ") +
-                             DevNúmero(Redondea(*valor, contexto_.DígitosRedondeo))
-                       : QStringLiteral("sin valor en X");
-    }
-    if (texto == partes_.visor.accessibleDescription())
+void ControlGráfica::AlConmutar(int índice, bool encendida) {
+    if (encendida) {
+        AlConfirmar(índice);
         return;
-    partes_.visor.setAccessibleDescription(texto); // which also announces it
+    }
+    ConTrampa(
+        [this, índice] {
+            funciones_.Apaga(índice);
+            return true;
+        },
+        {});
+}
+
+void ControlGráfica::CopiaX() {
+    partes_.panel.ActualizaX(escena_);
+}
+
+void ControlGráfica::CopiaFunciones() {
+    for (int i = 0; i < CantidadFunciones; ++i)
+        partes_.panel.Copia(i, funciones_[i]);
+    partes_.panel.ActualizaFunciones(escena_);
+}
+
+// What is being typed there is nobody else's.
+void ControlGráfica::CopiaExtremos() {
+    if (!partes_.marco.isVisible())
+        partes_.marco.ActualizaExtremos(escena_.textosExtremos);
+}
+
+// Shown is what a step of the axes' bars is worth.
+void ControlGráfica::CopiaUnidades() {
+    const auto muestra = [](QScrollBar& barra, const std::string& unidad) {
+        barra.setStatusTip(QStringLiteral("Un paso desplaza ") + DevQString(unidad));
+    };
+    muestra(partes_.hsEjeX, escena_.textosUnidad[0]);
+    muestra(partes_.vsEjeY, escena_.textosUnidad[1]);
+}
+
+// What tells where the view is: the bar of the point X, the window in words, the picture in words,
+// and what lies under the pointer.
+void ControlGráfica::CopiaZoom() {
+    PonBarra(partes_.hsx, escena_.barraX);
+    PonTexto(partes_.zoom, DevQString(escena_.textoVentana));
+    Señala(puntero_);
+    if (pausa_.isActive())
+        return;
+    if (const QString texto = DevQString(escena_.descripción);
+        texto != partes_.visor.accessibleDescription())
+        partes_.visor.setAccessibleDescription(texto); // which also announces it
+}
+
+void ControlGráfica::CopiaCuadro() {
+    partes_.visor.Muestra(escena_);
+}
+
+void ControlGráfica::CopiaMotivos() {
+    for (int i = 0; i < CantidadFunciones; ++i) {
+        const bool seCalla = pausa_.isActive() && funciones_[i].estado == EstadoTexto::MediaEscrita;
+        partes_.panel.PonMotivo(
+            i, seCalla ? QString() : DevQString(escena_.motivos.at(static_cast<std::size_t>(i))));
+    }
+}
+
+void ControlGráfica::CopiaLoQueDifiere() {
+    CopiaX();
+    CopiaFunciones();
+    CopiaExtremos();
+    CopiaUnidades();
+    CopiaCuadro();
+    CopiaZoom();
+    CopiaMotivos();
 }
 
 void ControlGráfica::Señala(const std::optional<QPointF>& lugar) {
@@ -248,9 +343,10 @@ void ControlGráfica::Señala(const std::optional<QPointF>& lugar) {
     }
     const QPointF lógico = partes_.visor.DevLógico(*lugar);
     const QPointF separación = partes_.visor.DevSeparación();
-    partes_.coordenadas.setText(QStringLiteral("X=%1  Y=%2")
-                                    .arg(DevQString(TextoCoordenada(lógico.x(), separación.x())),
-                                         DevQString(TextoCoordenada(lógico.y(), separación.y()))));
+    PonTexto(partes_.coordenadas,
+             QStringLiteral("X=%1  Y=%2")
+                 .arg(DevQString(TextoCoordenada(lógico.x(), separación.x())),
+                      DevQString(TextoCoordenada(lógico.y(), separación.y()))));
 }
 
 } // namespace quiralto

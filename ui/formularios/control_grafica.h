@@ -1,26 +1,29 @@
-// The handlers of the graph view: each changes the view, refreshes what shows it, and redraws.
+// The graph view: its model and the handlers that change it. Each change is composed into one
+// scene, and the refreshers copy from that.
 #pragma once
 
 #include "ui/formularios/frm_puntos_extremos.h"
 #include "ui/formularios/panel_funciones.h"
 #include "ui/formularios/visor_funciones.h"
-#include "ui/grafica/ventana_grafica.h"
+#include "ui/hoja/ejecutor.h"
 
+#include <QLabel>
 #include <QScrollBar>
 
-#include <initializer_list>
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <vector>
 
 namespace quiralto {
 
-inline constexpr int DígitosRedondeoIniciales = 8;
-
-class ControlGráfica {
+class ControlGráfica : public QObject {
 public:
     // What shows the view; all of it outlives the control.
     struct Partes {
         VisorFunciones& visor;
         PanelFunciones& panel;
-        frmPuntosExtremos& marco;
+        FrmPuntosExtremos& marco;
         QScrollBar& hsEjeX;
         QScrollBar& vsEjeY;
         QScrollBar& hsx;
@@ -28,64 +31,97 @@ public:
         QLabel& coordenadas; // under the pointer
     };
 
-    ControlGráfica(Contexto& contexto, VentanaGráfica& vista, Partes partes);
-    virtual ~ControlGráfica() = default;
-    ControlGráfica(const ControlGráfica&) = delete;
-    ControlGráfica& operator=(const ControlGráfica&) = delete;
+    // Context and executor outlive the control. A change that comes while a command runs waits
+    // until it has ended.
+    ControlGráfica(Contexto& contexto, Ejecutor& ejecutor, const Partes& partes,
+                   QObject* padre = nullptr);
 
     void ZoomGráfica_Click(int índice);
     void ZoomEjeX_Click(int índice);
     void ZoomEjeY_Click(int índice);
     void ZoomEjesXY_Click(int índice);
     void ValoresPorDefectoEjes_Click();
+    void FijarPuntosExtremos_Click();
     void NúmeroPuntos_Click(int índice);
-    void RedondeoNúmeros_Click(int índice) { contexto_.DígitosRedondeo = índice; }
+    void RedondeoNúmeros_Click(int índice);
     void OrdenMenúPuntos_Click() { PonMétodo(MétodoDibujo::Puntos); }
     void OrdenMenúLíneas_Click() { PonMétodo(MétodoDibujo::Líneas); }
     void hsEjeX_Change(int valor);
     void vsEjeY_Change(int valor);
     void hsx_Change(int valor);
-    bool FijaExtremos(const Ventana& ventana);
-    void FuncionesCambiadas();
+    void FijaExtremos(const Ventana& ventana);
+
+    // The functions' boxes.
+    void AlEscribir(int índice, const QString& texto);
+    void AlConfirmar(int índice);
+    void AlAbandonar(int índice);
+    void AlConmutar(int índice, bool encendida);
 
     // The window of the start, and everything brought up to date with it.
     void Comienza();
 
-    // The scene as it is shown.
-    const EscenaGráfica& DevEscena() const { return partes_.visor.DevEscena(); }
+    // The scene as it is shown, and what it was composed from.
+    const Escena& DevEscena() const { return escena_; }
+    const FuncionesGráficas& DevFunciones() const { return funciones_; }
+    const Opciones& DevOpciones() const { return opciones_; }
+
+    // How long a text may stay half-written before it is told why it is no formula.
+    static constexpr std::chrono::milliseconds Pausa = std::chrono::seconds(1);
 
 protected:
-    // The refreshers: each shows a part of the view as it is now.
-    virtual void ActualizaX();
-    virtual void ActualizaFunciones();
-    virtual void ActualizaExtremos();
-    virtual void ActualizaUnidadEjesXY();
-    virtual void ActualizaZoom();
-    virtual void ActualizaEjes();
-    virtual void DibujarActivadas();
+    // The refreshers: each copies a part of the scene to where it is shown.
+    virtual void ActualizaX() { CopiaX(); }
+    virtual void ActualizaFunciones() { CopiaFunciones(); }
+    virtual void ActualizaExtremos() { CopiaExtremos(); }
+    virtual void ActualizaUnidadEjesXY() { CopiaUnidades(); }
+    virtual void ActualizaZoom() { CopiaZoom(); }
+    virtual void ActualizaEjes() { CopiaCuadro(); }
+    virtual void DibujarActivadas() { CopiaCuadro(); }
 
     // The end of the error trap: an overflow is undone silently, any other fault is told.
     void MensajeErrorOverflow(int número);
 
-private:
-    using Pasos = std::initializer_list<void (ControlGráfica::*)()>;
+    using Paso = void (ControlGráfica::*)();
+    using Pasos = std::vector<Paso>;
+    // Runs the refreshers in the order given.
+    virtual void Refresca(const Pasos& pasos);
 
+    // Every handler comes through here: `cambia` changes the model and returns whether it has; the
+    // refreshers show the change in the order given, and what they leave is copied behind them.
+    // Once nothing else runs, `luego` is called with whether all went through.
+    using Cambio = std::function<bool()>;
+    using Luego = std::function<void(bool)>;
+    void ConTrampa(Cambio cambia, Pasos pasos, Luego luego = {});
+
+private:
+    void ConectaVisor();
+    bool Atiende(const Cambio& cambia, const Pasos& pasos);
+    void Muestra(const Pasos& pasos);
     void PonMétodo(MétodoDibujo método);
     void PonPuntoX(double x);
+    void MuevePuntoX(double pasos);
     void Señala(const std::optional<QPointF>& lugar);
-    void Describe();
-    void Refresca(Pasos pasos);
-    void ActualizaTodo();
+    void AlPararse();
 
-    // Runs a handler under the error trap: `cambia` changes the view and returns whether it has,
-    // then the refreshers show the change, in the order given. True where all went through.
-    template <typename Cambio> bool ConTrampa(Cambio cambia, Pasos pasos);
+    void CopiaX();
+    void CopiaFunciones();
+    void CopiaExtremos();
+    void CopiaUnidades();
+    void CopiaZoom();
+    void CopiaCuadro();
+    void CopiaMotivos();
+    void CopiaLoQueDifiere();
 
     Contexto& contexto_;
-    VentanaGráfica& vista_;
+    Ejecutor& ejecutor_;
     Partes partes_;
-    EscenaGráfica escena_;
+    Vista vista_;
+    FuncionesGráficas funciones_;
+    Opciones opciones_;
+    Compositor compositor_;
+    Escena escena_;
     std::optional<QPointF> puntero_; // over the picture
+    QTimer pausa_;                   // runs while a text is being typed
 };
 
 } // namespace quiralto

@@ -1,115 +1,116 @@
 #include "ui/formularios/frm_graficas.h"
 
-#include "ui/acciones/menu_hoja.h"
+#include "ui/acciones/barra.h"
+#include "ui/acciones/menus.h"
+#include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/iconos.h"
-#include "ui/formularios/for_acerca_de.h"
-#include "ui/formularios/form_ayuda.h"
+#include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/frm_acerca_de.h"
+#include "ui/formularios/frm_manual.h"
 #include "ui/formularios/impresion_grafica.h"
 #include "ui/formularios/impresion_texto.h"
-#include "ui/formularios/marco_barra.h"
-#include "ui/formularios/menu_grafica.h"
+#include "ui/hoja/lector_estado.h"
 
 #include <QClipboard>
-#include <QFontDatabase>
+#include <QCloseEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
-#include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 
 #include <algorithm>
+#include <exception>
+#include <span>
 
 namespace quiralto {
+namespace {
 
-frmGráficas::frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impresora& impresora)
-    : contexto_(contexto), vigilante_(vigilante), impresora_(impresora), vista_(contexto),
-      txtSalida_(new CajaHoja(this)), visor_(new VisorFunciones(this)),
-      panel_(new PanelFunciones(
-          contexto, vista_, [this] { control_->FuncionesCambiadas(); }, this)),
-      marco_(new frmPuntosExtremos(
-          contexto, [this](const Ventana& ventana) { return control_->FijaExtremos(ventana); },
-          this)),
+DatosBarra DevBarraEjeX() {
+    return {
+        QStringLiteral("hsEjeX"),
+        QStringLiteral("Control eje X"),
+        QStringLiteral("Con este control puede desplazar la gráfica a la derecha o a la izquierda"),
+        20,
+        5,
+        Qt::Horizontal,
+        true};
+}
+
+DatosBarra DevBarraEjeY() {
+    return {
+        QStringLiteral("vsEjeY"),
+        QStringLiteral("Control eje Y"),
+        QStringLiteral("Con este control puede desplazar la gráfica hacia arriba o hacia abajo"),
+        20,
+        5,
+        Qt::Vertical,
+        true};
+}
+
+DatosBarra DevBarraPuntoX() {
+    return {QStringLiteral("hsx"),
+            QStringLiteral("Control punto X"),
+            QStringLiteral("Con este control puede desplazar el punto X hacia la derecha o hacia "
+                           "la izquierda"),
+            100,
+            10,
+            Qt::Horizontal,
+            false};
+}
+
+} // namespace
+
+FrmGráficas::FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Impresora& impresora)
+    : contexto_(contexto), impresora_(impresora), acciones_(CreaAcciones(*this)),
+      txtSalida_(new CajaHoja(this)),
+      ejecutor_(new Ejecutor(contexto, vigilante, *txtSalida_, this)),
+      visor_(new VisorFunciones(this)), panel_(new PanelFunciones(this)),
+      marco_(new FrmPuntosExtremos(contexto, this)), ejeX_(new MarcoBarra(DevBarraEjeX(), this)),
+      ejeY_(new MarcoBarra(DevBarraEjeY(), this)), puntoX_(new MarcoBarra(DevBarraPuntoX(), this)),
+      división_(new QSplitter(Qt::Horizontal, this)), lectura_(new EtiquetaLectura(this)),
       zoom_(new QLabel(this)), coordenadas_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmGráficas"));
     setWindowTitle(QStringLiteral("Quiralto"));
     setWindowIcon(DevIconoPrograma());
-    auto* división = new QSplitter(Qt::Horizontal, this);
-    división->setObjectName(QStringLiteral("división"));
-    división->setChildrenCollapsible(false);
-    división->addWidget(CreaZonaGráfica());
-    división->addWidget(CreaColumna());
-    división->setStretchFactor(0, 1);
-    división->setStretchFactor(1, 0);
-    setCentralWidget(división);
-    const auto barra = [this](const QString& nombre) -> QScrollBar& {
-        return *findChild<QScrollBar*>(nombre);
-    };
-    control_ = std::make_unique<ControlGráfica>(
-        contexto, vista_,
-        ControlGráfica::Partes{.visor = *visor_,
-                               .panel = *panel_,
-                               .marco = *marco_,
-                               .hsEjeX = barra(QStringLiteral("hsEjeX")),
-                               .vsEjeY = barra(QStringLiteral("vsEjeY")),
-                               .hsx = barra(QStringLiteral("hsx")),
-                               .zoom = *zoom_,
-                               .coordenadas = *coordenadas_});
+    CreaCuerpo();
     CreaBarraEstado();
-    CreaMenús();
+    CreaMenúsYBarra();
+    CreaControl();
+    ConectaAccionesGráfica();
+    ConectaOtrasAcciones();
+    ConectaLectura();
     txtSalida_->setFocus();
-    // The window manager's frame is to fit too.
-    const QSize marco(16, 48);
-    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize() - marco));
-    const int columna = std::min(400, width() * 36 / 100);
-    división->setSizes({width() - columna, columna});
+    PonTamaño();
 }
 
-// The controls go before what they call.
-frmGráficas::~frmGráficas() {
-    panel_->Cierra();
-    delete takeCentralWidget();
+void FrmGráficas::CreaCuerpo() {
+    división_->setObjectName(QStringLiteral("división"));
+    división_->setChildrenCollapsible(false);
+    división_->addWidget(CreaZonaGráfica());
+    división_->addWidget(CreaColumna());
+    división_->setStretchFactor(0, 1);
+    división_->setStretchFactor(1, 0);
+    setCentralWidget(división_);
 }
 
-QWidget* frmGráficas::CreaZonaGráfica() {
+QWidget* FrmGráficas::CreaZonaGráfica() {
     visor_->setObjectName(QStringLiteral("VisorFunciones"));
     visor_->setAccessibleName(QStringLiteral("Gráfica"));
+    visor_->addAction(acciones_.CopiarImagen);
+    visor_->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* zona = new QWidget(this);
     auto* rejilla = new QGridLayout(zona);
     rejilla->setContentsMargins(8, 8, 4, 8);
     rejilla->setSpacing(6);
     rejilla->addWidget(visor_, 0, 0, 1, 2);
-    rejilla->addWidget(
-        CreaMarcoBarra({QStringLiteral("vsEjeY"), QStringLiteral("Control eje Y"),
-                        QStringLiteral("Con este control puede desplazar la gráfica hacia arriba "
-                                       "o hacia abajo"),
-                        20, 5},
-                       Qt::Vertical, true, [this](int v) { control_->vsEjeY_Change(v); }),
-        0, 2);
-    rejilla->addWidget(
-        CreaMarcoBarra({QStringLiteral("hsEjeX"), QStringLiteral("Control eje X"),
-                        QStringLiteral("Con este control puede desplazar la gráfica a la derecha "
-                                       "o a la izquierda"),
-                        20, 5},
-                       Qt::Horizontal, true, [this](int v) { control_->hsEjeX_Change(v); }),
-        1, 0);
-    rejilla->addWidget(
-        CreaMarcoBarra({QStringLiteral("hsx"), QStringLiteral("Control punto X"),
-                        QStringLiteral("Con este control puede desplazar el punto X hacia la "
-                                       "derecha o hacia la izquierda"),
-                        100, 10},
-                       Qt::Horizontal, false, [this](int v) { control_->hsx_Change(v); }),
-        1, 1);
+    rejilla->addWidget(ejeY_, 0, 2);
+    rejilla->addWidget(ejeX_, 1, 0);
+    rejilla->addWidget(puntoX_, 1, 1);
     rejilla->setRowStretch(0, 1);
-
-    auto* copiar = new QAction(QStringLiteral("Copiar imagen"), visor_);
-    copiar->setObjectName(QStringLiteral("CopiarImagen"));
-    connect(copiar, &QAction::triggered, this, [this] { CopiarImagen_Click(); });
-    visor_->addAction(copiar);
-    visor_->setContextMenuPolicy(Qt::ActionsContextMenu);
     return zona;
 }
 
-QWidget* frmGráficas::CreaColumna() {
+QWidget* FrmGráficas::CreaColumna() {
     txtSalida_->setObjectName(QStringLiteral("txtSalida"));
     txtSalida_->setPlaceholderText(QStringLiteral(
         "X^2-4,-5,5   'y después: Hoja, Cálculo numérico con una variable, Hallar soluciones"));
@@ -126,71 +127,119 @@ QWidget* frmGráficas::CreaColumna() {
     return columna;
 }
 
-void frmGráficas::CreaBarraEstado() {
+void FrmGráficas::CreaBarraEstado() {
     zoom_->setObjectName(QStringLiteral("zoom"));
     coordenadas_->setObjectName(QStringLiteral("coordenadas"));
-    const QFont fija = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const QFont fija = DevFuenteFija();
     coordenadas_->setFont(fija);
     coordenadas_->setIndent(12);
     // Room for the coordinates of any usual window, so that nothing beside them moves.
     coordenadas_->setMinimumWidth(
         QFontMetrics(fija).horizontalAdvance(QStringLiteral("X=-12.3456  Y=-12.3456")));
+    statusBar()->addWidget(lectura_, 1);
     statusBar()->addPermanentWidget(zoom_);
     statusBar()->addPermanentWidget(coordenadas_);
 }
 
-void frmGráficas::CreaMenús() {
-    CreaMenúArchivo();
-    QMenu* gráfica = menuBar()->addMenu(QStringLiteral("&Gráfica"));
-    gráfica->setObjectName(QStringLiteral("MenúGráfica"));
-    CreaMenúsGráfica(*gráfica, *control_, [this] { FijarPuntosExtremos_Click(); });
-    QMenu* hoja = menuBar()->addMenu(QStringLiteral("&Hoja"));
-    hoja->setObjectName(QStringLiteral("MenúHoja"));
-    CreaMenúsÓrdenes(*hoja, DevÓrdenes(),
-                     [this](const Orden& orden) { EjecutaOrden(orden.texto); });
-    CreaMenúAyuda();
-    auto* barra = addToolBar(QStringLiteral("Barra de herramientas"));
-    barra->setObjectName(QStringLiteral("Toolbar1"));
-    barra->setMovable(false);
-    barra->setContextMenuPolicy(Qt::PreventContextMenu); // which would only hide it
-    barra->toggleViewAction()->setObjectName(QStringLiteral("VerToolbar1"));
-    CreaBarraHerramientas(*barra, *control_);
+void FrmGráficas::CreaMenúsYBarra() {
+    menúHoja_ = &CreaMenús(*menuBar(), acciones_);
+    CreaBarraHerramientas(*addToolBar(QStringLiteral("Barra de herramientas")), acciones_);
 }
 
-void frmGráficas::CreaMenúArchivo() {
-    QMenu* archivo = menuBar()->addMenu(QStringLiteral("&Archivo"));
-    QMenu* imprimir = archivo->addMenu(QStringLiteral("Imprimir"));
-    imprimir->setObjectName(QStringLiteral("Imprimir"));
-    QAction* gráfica = imprimir->addAction(QStringLiteral("Ventana gráfica"));
-    gráfica->setObjectName(QStringLiteral("ImprimirGráfica"));
-    connect(gráfica, &QAction::triggered, this, [this] { ImprimirGráfica_Click(); });
-    QAction* texto = imprimir->addAction(QStringLiteral("Ventana texto"));
-    texto->setObjectName(QStringLiteral("ImprimirTexto"));
-    connect(texto, &QAction::triggered, this, [this] { ImprimirTexto_Click(); });
-    archivo->addSeparator();
-    QAction* salir = archivo->addAction(QStringLiteral("&Salir"));
-    salir->setObjectName(QStringLiteral("Salir"));
-    salir->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
-    connect(salir, &QAction::triggered, this, &QWidget::close);
+void FrmGráficas::CreaControl() {
+    control_ =
+        std::make_unique<ControlGráfica>(contexto_, *ejecutor_,
+                                         ControlGráfica::Partes{.visor = *visor_,
+                                                                .panel = *panel_,
+                                                                .marco = *marco_,
+                                                                .hsEjeX = ejeX_->DevBarra(),
+                                                                .vsEjeY = ejeY_->DevBarra(),
+                                                                .hsx = puntoX_->DevBarra(),
+                                                                .zoom = *zoom_,
+                                                                .coordenadas = *coordenadas_});
+    connect(ejeX_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::hsEjeX_Change);
+    connect(ejeY_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::vsEjeY_Change);
+    connect(puntoX_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::hsx_Change);
 }
 
-void frmGráficas::CreaMenúAyuda() {
-    QMenu* ayuda = menuBar()->addMenu(QStringLiteral("A&yuda"));
-    QAction* contenido = ayuda->addAction(QStringLiteral("&Contenido"));
-    contenido->setObjectName(QStringLiteral("Contenido"));
-    contenido->setShortcut(QKeySequence(Qt::Key_F1));
-    connect(contenido, &QAction::triggered, this, [this] { Contenido_Click(); });
-    QAction* acerca = ayuda->addAction(QStringLiteral("Acerca de"));
-    acerca->setObjectName(QStringLiteral("AcercaDe"));
-    connect(acerca, &QAction::triggered, this, [this] { AcercaDe_Click(); });
+void FrmGráficas::PonTamaño() {
+    // The window manager's frame is to fit too.
+    const QSize marco(16, 48);
+    resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize() - marco));
+    const int columna = std::min(400, width() * 36 / 100);
+    división_->setSizes({width() - columna, columna});
 }
 
-void frmGráficas::FijarPuntosExtremos_Click() {
-    marco_->VerMarcoConfiguraciónPuntosExtremos(vista_.DevVentana());
+void FrmGráficas::ConectaAccionesGráfica() {
+    // One handler for the actions of an array, with their index.
+    const auto conecta = [this](const auto& acciones, void (ControlGráfica::*alElegir)(int)) {
+        int índice = 0;
+        for (QAction* acción : acciones)
+            connect(
+                acción, &QAction::triggered, control_.get(),
+                [control = control_.get(), alElegir, i = índice++] { (control->*alElegir)(i); });
+    };
+    conecta(acciones_.ZoomGráfica, &ControlGráfica::ZoomGráfica_Click);
+    conecta(acciones_.ZoomEjeX, &ControlGráfica::ZoomEjeX_Click);
+    conecta(acciones_.ZoomEjeY, &ControlGráfica::ZoomEjeY_Click);
+    conecta(acciones_.ZoomEjesXY, &ControlGráfica::ZoomEjesXY_Click);
+    conecta(acciones_.NúmeroPuntos, &ControlGráfica::NúmeroPuntos_Click);
+    conecta(acciones_.RedondeoNúmeros, &ControlGráfica::RedondeoNúmeros_Click);
+    connect(acciones_.ValoresPorDefectoEjes, &QAction::triggered, control_.get(),
+            &ControlGráfica::ValoresPorDefectoEjes_Click);
+    connect(acciones_.FijarPuntosExtremos, &QAction::triggered, control_.get(),
+            &ControlGráfica::FijarPuntosExtremos_Click);
+    connect(acciones_.OrdenMenúPuntos, &QAction::triggered, control_.get(),
+            &ControlGráfica::OrdenMenúPuntos_Click);
+    connect(acciones_.OrdenMenúLíneas, &QAction::triggered, control_.get(),
+            &ControlGráfica::OrdenMenúLíneas_Click);
+}
+
+void FrmGráficas::ConectaOtrasAcciones() {
+    const auto conecta = [this](QAction* acción, void (FrmGráficas::*alElegir)()) {
+        connect(acción, &QAction::triggered, this, [this, alElegir] { (this->*alElegir)(); });
+    };
+    conecta(acciones_.ImprimirGráfica, &FrmGráficas::ImprimirGráfica_Click);
+    conecta(acciones_.ImprimirTexto, &FrmGráficas::ImprimirTexto_Click);
+    conecta(acciones_.CopiarImagen, &FrmGráficas::CopiarImagen_Click);
+    conecta(acciones_.Contenido, &FrmGráficas::Contenido_Click);
+    conecta(acciones_.Manual, &FrmGráficas::Manual_Click);
+    conecta(acciones_.AcercaDe, &FrmGráficas::AcercaDe_Click);
+    connect(acciones_.Salir, &QAction::triggered, this, &QWidget::close);
+    const std::span<const Orden> órdenes = DevÓrdenes();
+    for (std::size_t i = 0; i < órdenes.size(); ++i)
+        connect(acciones_.órdenes.at(i), &QAction::triggered, ejecutor_,
+                [ejecutor = ejecutor_, texto = órdenes[i].texto] { ejecutor->Ejecuta(texto); });
+}
+
+void FrmGráficas::ConectaLectura() {
+    trasTeclear_.setSingleShot(true);
+    trasTeclear_.setInterval(Lectura);
+    connect(&trasTeclear_, &QTimer::timeout, this, [this] { LeeHoja(); });
+    connect(txtSalida_, &QPlainTextEdit::textChanged, &trasTeclear_, qOverload<>(&QTimer::start));
+    connect(menúHoja_, &QMenu::aboutToShow, this, [this] { LeeHoja(); });
+    connect(panel_, &PanelFunciones::motivoCambiado, lectura_, &EtiquetaLectura::PonMotivo);
+    LeeHoja();
+}
+
+// Quiet, and never while a command works on the same context.
+void FrmGráficas::LeeHoja() {
+    ejecutor_->CuandoAcabe([this] {
+        QString leído; // none where it cannot be read; the command will tell
+        try {
+            leído = DevQString(DevLectura(contexto_, txtSalida_->DevTexto()));
+        } catch (const std::exception&) {
+            leído.clear();
+        }
+        const std::span<const Orden> órdenes = DevÓrdenes();
+        for (std::size_t i = 0; i < órdenes.size(); ++i)
+            acciones_.órdenes.at(i)->setStatusTip(DevExplicación(órdenes[i], leído));
+        lectura_->PonLeído(leído);
+    });
 }
 
 // Made on first use.
-template <typename Formulario> void frmGráficas::Muestra(Formulario*& formulario) {
+template <typename Formulario> void FrmGráficas::Muestra(QPointer<Formulario>& formulario) {
     if (formulario == nullptr)
         formulario = new Formulario(this);
     formulario->show();
@@ -198,7 +247,7 @@ template <typename Formulario> void frmGráficas::Muestra(Formulario*& formulari
     formulario->activateWindow();
 }
 
-void frmGráficas::closeEvent(QCloseEvent* suceso) {
+void FrmGráficas::closeEvent(QCloseEvent* suceso) {
     panel_->Cierra();
     for (auto* formulario : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         if (formulario->isWindow())
@@ -206,43 +255,26 @@ void frmGráficas::closeEvent(QCloseEvent* suceso) {
     QMainWindow::closeEvent(suceso);
 }
 
-void frmGráficas::EjecutaOrden(std::string_view orden) {
-    if (vigilante_.EnMarcha())
-        return;
-    Hoja hoja(txtSalida_->DevTexto());
-    {
-        const VigilanteVentana::Guardia guardia(vigilante_);
-        EjecutaInstrucciones(contexto_, hoja, orden);
-    }
-    txtSalida_->PonTexto(hoja.texto);
-    if (hoja.líneaSeleccionada)
-        txtSalida_->SeleccionaLínea(*hoja.líneaSeleccionada);
-}
-
-template <typename Imprime> void frmGráficas::ConImpresora(Imprime imprime) {
+void FrmGráficas::Imprime(const Documento& documento) {
     QPrinter impresora(QPrinter::HighResolution);
     impresora.setDocName(QStringLiteral("Quiralto"));
-    if (impresora_.Elige(impresora, this) && !imprime(impresora))
+    if (impresora_.Elige(impresora, this) && !quiralto::Imprime(impresora, documento))
         contexto_.Avisa("No se puede imprimir");
 }
 
-void frmGráficas::ImprimirTexto_Click() {
-    ConImpresora([this](QPrinter& impresora) {
-        return ImprimetxtSalida(impresora, txtSalida_->DevTexto());
+void FrmGráficas::ImprimirTexto_Click() {
+    Imprime([this](QPagedPaintDevice& dispositivo) {
+        return ImprimetxtSalida(dispositivo, txtSalida_->DevTexto());
     });
 }
 
-void frmGráficas::ImprimirGráfica_Click() {
-    ConImpresora([this](QPrinter& impresora) {
-        std::array<std::string, VentanaGráfica::CantidadFunciones> textos;
-        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-            if (vista_.EstáActiva(i))
-                textos.at(static_cast<std::size_t>(i)) = vista_.DevTexto(i);
-        return ImprimeGráficas(impresora, control_->DevEscena(), visor_->size(), textos);
+void FrmGráficas::ImprimirGráfica_Click() {
+    Imprime([this](QPagedPaintDevice& dispositivo) {
+        return ImprimeGráficas(dispositivo, control_->DevEscena(), visor_->size());
     });
 }
 
-void frmGráficas::CopiarImagen_Click() {
+void FrmGráficas::CopiarImagen_Click() {
     QGuiApplication::clipboard()->setImage(visor_->DevImagen());
 }
 

@@ -1,66 +1,85 @@
-// The main form: the graph view and the worksheet.
+// The main form: the graph view and the worksheet. It assembles the parts, owns them, and connects
+// the actions.
 #pragma once
 
-#include "commands/ordenes.h"
+#include "ui/acciones/acciones.h"
 #include "ui/formularios/control_grafica.h"
+#include "ui/formularios/etiqueta_lectura.h"
+#include "ui/formularios/frm_ayuda.h"
+#include "ui/formularios/impresion.h"
+#include "ui/formularios/marco_barra.h"
 #include "ui/hoja/caja_hoja.h"
-#include "ui/programa/impresora.h"
-#include "ui/programa/vigilante_ventana.h"
+#include "ui/hoja/ejecutor.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QSplitter>
+#include <QTimer>
 
 #include <memory>
 
 namespace quiralto {
 
-class frmGráficas : public QMainWindow {
+class FrmGráficas : public QMainWindow {
 public:
     // All three outlive the form.
-    frmGráficas(Contexto& contexto, VigilanteVentana& vigilante, Impresora& impresora);
-
-    ~frmGráficas() override;
-
-    // Runs the command with that text on the worksheet. Nothing happens while one is running.
-    void EjecutaOrden(std::string_view orden);
+    FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Impresora& impresora);
 
     // The view of the start.
     void Comienza() { control_->Comienza(); }
+
+    // What there is on the worksheet, in words, is told this long after the last key.
+    static constexpr std::chrono::milliseconds Lectura{120};
 
 protected:
     void closeEvent(QCloseEvent* suceso) override;
 
 private:
+    void CreaCuerpo();
     QWidget* CreaZonaGráfica();
     QWidget* CreaColumna();
     void CreaBarraEstado();
-    void CreaMenús();
-    void CreaMenúArchivo();
-    void CreaMenúAyuda();
+    void CreaMenúsYBarra();
+    void CreaControl();
+    void PonTamaño();
+    void ConectaAccionesGráfica();
+    void ConectaOtrasAcciones();
+    void ConectaLectura();
 
-    void FijarPuntosExtremos_Click();
-    template <typename Imprime> void ConImpresora(Imprime imprime);
     void ImprimirGráfica_Click();
     void ImprimirTexto_Click();
     void CopiarImagen_Click();
     void Contenido_Click() { Muestra(ayuda_); }
+    void Manual_Click() { Muestra(manual_); }
     void AcercaDe_Click() { Muestra(acercaDe_); }
-    template <typename Formulario> void Muestra(Formulario*& formulario);
+    void Imprime(const Documento& documento);
+    template <typename Formulario> void Muestra(QPointer<Formulario>& formulario);
+    void LeeHoja();
 
     Contexto& contexto_;
-    VigilanteVentana& vigilante_;
     Impresora& impresora_;
-    VentanaGráfica vista_;
-    std::unique_ptr<ControlGráfica> control_;
+    Acciones acciones_;
 
     CajaHoja* txtSalida_;
+    Ejecutor* ejecutor_;
     VisorFunciones* visor_;
     PanelFunciones* panel_;
-    frmPuntosExtremos* marco_;
+    FrmPuntosExtremos* marco_;
+    MarcoBarra* ejeX_;
+    MarcoBarra* ejeY_;
+    MarcoBarra* puntoX_;
+    QSplitter* división_;
+    EtiquetaLectura* lectura_;
     QLabel* zoom_;
     QLabel* coordenadas_;
-    class formAyuda* ayuda_ = nullptr;
-    class forAcercaDe* acercaDe_ = nullptr;
+    // Goes with the members, before the controls that speak to it.
+    std::unique_ptr<ControlGráfica> control_;
+    QMenu* menúHoja_ = nullptr;
+    QPointer<FrmAyuda> ayuda_;
+    QPointer<class FrmManual> manual_;
+    QPointer<class FrmAcercaDe> acercaDe_;
+
+    QTimer trasTeclear_; // runs out once the worksheet has been left alone
 };
 
 } // namespace quiralto

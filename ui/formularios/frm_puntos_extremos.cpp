@@ -1,70 +1,62 @@
 #include "ui/formularios/frm_puntos_extremos.h"
 
 #include "engine/evaluacion/validadores.h"
-#include "engine/numeros/numero.h"
 #include "ui/dibujo/texto_qt.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QDialogButtonBox>
+#include <QFormLayout>
 #include <QPushButton>
 
 namespace quiralto {
 
-frmPuntosExtremos::frmPuntosExtremos(Contexto& contexto, std::function<bool(const Ventana&)> fijar,
-                                     QWidget* padre)
-    : QDialog(padre), contexto_(contexto), fijar_(std::move(fijar)) {
+FrmPuntosExtremos::FrmPuntosExtremos(Contexto& contexto, QWidget* padre)
+    : QDialog(padre), contexto_(contexto) {
     setObjectName(QStringLiteral("frmPuntosExtremos"));
     setWindowTitle(QStringLiteral("Establecimiento de puntos extremos"));
-    auto* rejilla = new QGridLayout(this);
-    rejilla->setContentsMargins(12, 12, 12, 12);
+    auto* formulario = new QFormLayout(this);
     const std::array títulos = {QStringLiteral("Punto +X="), QStringLiteral("Punto -X="),
                                 QStringLiteral("Punto +Y="), QStringLiteral("Punto -Y=")};
-    for (int i = 0; i < 4; ++i) {
-        auto* caja = new CajaFórmula(this);
+    for (std::size_t i = 0; i < títulos.size(); ++i) {
+        auto* caja = new CajaFormula(this);
         caja->setObjectName(QStringLiteral("txtPuntosExtremos_%1").arg(i));
         caja->setMinimumWidth(340); // and the title fits
-        auto* etiqueta = new QLabel(títulos.at(static_cast<std::size_t>(i)), this);
-        etiqueta->setBuddy(caja);
-        rejilla->addWidget(etiqueta, i, 0);
-        rejilla->addWidget(caja, i, 1);
-        txtPuntosExtremos_.at(static_cast<std::size_t>(i)) = caja;
+        formulario->addRow(títulos.at(i), caja);
+        txtPuntosExtremos_.at(i) = caja;
     }
-    auto* aceptar = new QPushButton(QStringLiteral("Aceptar"), this);
+    auto* botones = new QDialogButtonBox(this);
+    auto* aceptar = botones->addButton(QStringLiteral("Aceptar"), QDialogButtonBox::AcceptRole);
     aceptar->setObjectName(QStringLiteral("Command1"));
     aceptar->setDefault(true);
-    auto* cancelar = new QPushButton(QStringLiteral("Cancelar"), this);
+    auto* cancelar = botones->addButton(QStringLiteral("Cancelar"), QDialogButtonBox::RejectRole);
     cancelar->setObjectName(QStringLiteral("Command2"));
     cancelar->setAutoDefault(false);
-    auto* botones = new QHBoxLayout;
-    botones->addStretch();
-    botones->addWidget(aceptar);
-    botones->addWidget(cancelar);
-    rejilla->addLayout(botones, 4, 0, 1, 2);
-    connect(aceptar, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    connect(cancelar, &QPushButton::clicked, this, [this] { Command2_Click(); });
+    formulario->addRow(botones);
+    connect(botones, &QDialogButtonBox::accepted, this, &FrmPuntosExtremos::Command1_Click);
+    connect(botones, &QDialogButtonBox::rejected, this, &FrmPuntosExtremos::Command2_Click);
 }
 
-void frmPuntosExtremos::ActualizaExtremos(const Ventana& ventana) {
-    const std::array valores = {ventana.XMáx, ventana.XMín, ventana.YMáx, ventana.YMín};
-    for (std::size_t i = 0; i < valores.size(); ++i)
-        txtPuntosExtremos_.at(i)->setText(DevQString(TextoNúmero(valores.at(i))));
+void FrmPuntosExtremos::ActualizaExtremos(const std::array<std::string, 4>& textos) {
+    for (std::size_t i = 0; i < textos.size(); ++i)
+        if (const QString texto = DevQString(textos.at(i));
+            txtPuntosExtremos_.at(i)->text() != texto)
+            txtPuntosExtremos_.at(i)->setText(texto);
 }
 
-void frmPuntosExtremos::VerMarcoConfiguraciónPuntosExtremos(const Ventana& ventana) {
-    ActualizaExtremos(ventana); // whatever was typed and cancelled is gone
+void FrmPuntosExtremos::VerMarcoConfiguraciónPuntosExtremos(
+    const std::array<std::string, 4>& textos) {
+    ActualizaExtremos(textos); // whatever was typed and cancelled is gone
     open();
     VuelveA(0);
 }
 
-void frmPuntosExtremos::VuelveA(int caja) {
-    CajaFórmula* const elegida = txtPuntosExtremos_.at(static_cast<std::size_t>(caja));
+void FrmPuntosExtremos::VuelveA(int caja) {
+    CajaFormula* const elegida = txtPuntosExtremos_.at(static_cast<std::size_t>(caja));
     elegida->setFocus(Qt::OtherFocusReason);
     elegida->SeleccionaTexto();
 }
 
 // Both pairs are checked before anything changes.
-void frmPuntosExtremos::Command1_Click() {
+void FrmPuntosExtremos::Command1_Click() {
     std::array<std::string, 4> textos;
     for (std::size_t i = 0; i < textos.size(); ++i)
         textos.at(i) = DevUtf8(txtPuntosExtremos_.at(i)->text());
@@ -79,10 +71,7 @@ void frmPuntosExtremos::Command1_Click() {
     };
     if (!comprueba(0, nueva.XMáx, nueva.XMín) || !comprueba(2, nueva.YMáx, nueva.YMín))
         return;
-    if (fijar_(nueva))
-        OcultarMarcoConfiguraciónPuntosExtremos();
-    else
-        VuelveA(0);
+    Q_EMIT aceptados(nueva);
 }
 
 } // namespace quiralto

@@ -8,29 +8,36 @@
 #include <QDialog>
 
 #include <array>
-#include <functional>
+#include <string>
 
 namespace quiralto {
 
-class frmPuntosExtremos : public QDialog {
-public:
-    // `fijar` makes the window the new one and returns whether it could.
-    frmPuntosExtremos(Contexto& contexto, std::function<bool(const Ventana&)> fijar,
-                      QWidget* padre);
+class FrmPuntosExtremos : public QDialog {
+    Q_OBJECT
 
-    void ActualizaExtremos(const Ventana& ventana);
-    // Opens the frame on that window, with the first box selected.
-    void VerMarcoConfiguraciónPuntosExtremos(const Ventana& ventana);
+public:
+    // The context outlives the frame.
+    explicit FrmPuntosExtremos(Contexto& contexto, QWidget* padre = nullptr);
+
+    // Writes the texts of the extremes into the boxes: right, left, upper, lower.
+    void ActualizaExtremos(const std::array<std::string, 4>& textos);
+    // Opens the frame on those texts, with the first box selected.
+    void VerMarcoConfiguraciónPuntosExtremos(const std::array<std::string, 4>& textos);
+    void OcultarMarcoConfiguraciónPuntosExtremos() { hide(); }
+    // Back to a box, with its text selected.
+    void VuelveA(int caja);
+
+Q_SIGNALS:
+    // "Aceptar", with extremes that have passed their checks. Whoever takes them hides the frame,
+    // or goes back to a box.
+    void aceptados(const quiralto::Ventana& ventana);
 
 private:
     void Command1_Click();
     void Command2_Click() { OcultarMarcoConfiguraciónPuntosExtremos(); }
-    void OcultarMarcoConfiguraciónPuntosExtremos() { hide(); }
-    void VuelveA(int caja);
 
     Contexto& contexto_;
-    std::function<bool(const Ventana&)> fijar_;
-    std::array<CajaFórmula*, 4> txtPuntosExtremos_{}; // right, left, upper, lower
+    std::array<CajaFormula*, 4> txtPuntosExtremos_{};
 };
 
 } // namespace quiralto

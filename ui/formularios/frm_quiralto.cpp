@@ -7,23 +7,27 @@
 #include <QScreen>
 
 #include <cmath>
+#include <utility>
 
 namespace quiralto {
 namespace {
 
-EscenaGráfica DevEscenaDeMuestra() {
-    EscenaGráfica escena;
+Cuadro DevCuadroDeMuestra() {
+    PorFunción<ListaPuntos> puntos;
     constexpr int Pasos = 400;
     for (int i = 0; i <= Pasos; ++i) {
         const double x = -MediaEscala + 2 * MediaEscala * i / Pasos;
         const auto punto = [&](double y) {
             return Punto{static_cast<float>(x), static_cast<float>(y)};
         };
-        escena.puntos[1].push_back(punto(x * x / 5 - 8));
-        escena.puntos[2].push_back(punto(7 * std::sin(x) / std::sqrt(1 + x * x / 8)));
-        escena.puntos[3].push_back(punto(x * x * x / 60 - x / 2));
+        puntos[1].push_back(punto(x * x / 5 - 8));
+        puntos[2].push_back(punto(7 * std::sin(x) / std::sqrt(1 + x * x / 8)));
+        puntos[3].push_back(punto(x * x * x / 60 - x / 2));
     }
-    return escena;
+    Cuadro cuadro;
+    for (std::size_t i = 0; i < puntos.size(); ++i)
+        cuadro.curvas.at(i).puntos = std::make_shared<const ListaPuntos>(std::move(puntos.at(i)));
+    return cuadro;
 }
 
 // The program's name in strokes: a font would be read before anything is to be seen. The small
@@ -72,12 +76,12 @@ void DibujaMuestra(QPainter& pintor, const Lienzo& lienzo) {
         pintor.drawLine(QLineF(área.left(), lugar.y(), área.right(), lugar.y()));
     }
     pintor.setClipRect(área);
-    DibujaCurvas(pintor, lienzo, DevEscenaDeMuestra());
+    DibujaCurvas(pintor, lienzo, DevCuadroDeMuestra());
 }
 
 } // namespace
 
-frmQuiralto::frmQuiralto()
+FrmQuiralto::FrmQuiralto()
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint) {
     setObjectName(QStringLiteral("frmQuiralto"));
     setWindowTitle(QStringLiteral("Quiralto"));
@@ -85,7 +89,7 @@ frmQuiralto::frmQuiralto()
     move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
 }
 
-void frmQuiralto::paintEvent(QPaintEvent*) {
+void FrmQuiralto::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
     pintor.fillRect(rect(), Qt::white);
     const qreal dpr = devicePixelRatioF();

@@ -5,9 +5,9 @@
 
 namespace quiralto {
 
-class frmQuiralto : public QWidget {
+class FrmQuiralto : public QWidget {
 public:
-    frmQuiralto();
+    FrmQuiralto();
 
 protected:
     void paintEvent(QPaintEvent* suceso) override;

@@ -1,18 +1,17 @@
 // The graph on paper.
 #pragma once
 
-#include "ui/dibujo/grafica.h"
+#include "ui/grafica/escena.h"
 
-#include <QPrinter>
-
-#include <string>
+#include <QPagedPaintDevice>
+#include <QSizeF>
 
 namespace quiralto {
 
 // Prints the scene on one page, in the given proportions (those of the picture on the screen) and
-// as large as the page allows, with the functions' texts in their colours below it; an empty text
-// stands for a function that is off. False where the printer cannot be written to.
-bool ImprimeGráficas(QPrinter& impresora, const EscenaGráfica& escena, const QSizeF& proporciones,
-                     const std::array<std::string, VentanaGráfica::CantidadFunciones>& textos);
+// as large as the page allows, with its legend below it; what is being typed is left out. False
+// where the printer cannot be written to.
+bool ImprimeGráficas(QPagedPaintDevice& impresora, const Escena& escena,
+                     const QSizeF& proporciones);
 
 } // namespace quiralto

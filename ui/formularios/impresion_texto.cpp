@@ -2,6 +2,7 @@
 
 #include "commands/impresion.h"
 #include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/impresion.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -31,13 +32,13 @@ void ImprimeLínea(QPainter& pintor, const QPointF& base, const QString& línea,
 
 } // namespace
 
-bool ImprimetxtSalida(QPrinter& impresora, std::string_view texto) {
+bool ImprimetxtSalida(QPagedPaintDevice& impresora, std::string_view texto) {
     QPainter pintor;
     if (!pintor.begin(&impresora))
         return false;
     pintor.setFont(DevFuenteImpresa());
     const QFontMetricsF medidas(pintor.font(), &impresora);
-    const QRectF página(QPointF(0, 0), impresora.pageRect(QPrinter::DevicePixel).size());
+    const QRectF página = DevPágina(impresora);
     qreal y = 0;
     for (const std::string& línea : DevLíneasImpresas(texto)) {
         if (y + medidas.height() > página.height()) {

@@ -1,7 +1,7 @@
 // The worksheet on paper.
 #pragma once
 
-#include <QPrinter>
+#include <QPagedPaintDevice>
 
 #include <string_view>
 
@@ -10,6 +10,6 @@ namespace quiralto {
 // Prints a worksheet text (UTF-8, lines separated by CR LF) in Arial 14 over as many pages as it
 // needs, a line longer than 80 characters in pieces of 80; a piece wider than the page is narrowed
 // to it. False where the printer cannot be written to.
-bool ImprimetxtSalida(QPrinter& impresora, std::string_view texto);
+bool ImprimetxtSalida(QPagedPaintDevice& impresora, std::string_view texto);
 
 } // namespace quiralto

@@ -6,43 +6,39 @@
 
 namespace quiralto {
 
-QWidget* CreaMarcoBarra(const DatosBarra& datos, Qt::Orientation orientación, bool vuelveA0,
-                        const std::function<void(int)>& alCambiar) {
-    const bool horizontal = orientación == Qt::Horizontal;
-    auto* marco = new QFrame;
-    marco->setFrameShape(QFrame::StyledPanel);
-    marco->setToolTip(datos.explicación);
+MarcoBarra::MarcoBarra(const DatosBarra& datos, QWidget* padre)
+    : QFrame(padre), barra_(new QScrollBar(datos.orientación, this)) {
+    const bool horizontal = datos.orientación == Qt::Horizontal;
+    setFrameShape(QFrame::StyledPanel);
+    setToolTip(datos.explicación);
     auto* caja =
-        new QBoxLayout(horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, marco);
+        new QBoxLayout(horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
     caja->setContentsMargins(6, 4, 6, 4);
     caja->setSpacing(6);
 
-    auto* barra = new QScrollBar(orientación, marco);
-    barra->setObjectName(datos.nombre);
-    barra->setAccessibleName(datos.título);
-    barra->setAccessibleDescription(datos.explicación);
-    barra->setFocusPolicy(Qt::StrongFocus);
-    barra->setRange(-datos.mitad, datos.mitad);
-    barra->setPageStep(datos.página);
-    barra->setValue(0);
-    barra->setTracking(!vuelveA0);
-    barra->setInvertedControls(!horizontal); // as a rule the right arrow goes to the left
-    auto* etiqueta = new QLabel(datos.título, marco);
-    etiqueta->setBuddy(barra);
+    barra_->setObjectName(datos.nombre);
+    barra_->setAccessibleName(datos.título);
+    barra_->setAccessibleDescription(datos.explicación);
+    barra_->setFocusPolicy(Qt::StrongFocus);
+    barra_->setRange(-datos.mitad, datos.mitad);
+    barra_->setPageStep(datos.página);
+    barra_->setValue(0);
+    barra_->setTracking(!datos.vuelveA0);
+    barra_->setInvertedControls(!horizontal); // as a rule the right arrow goes to the left
+    auto* etiqueta = new QLabel(datos.título, this);
+    etiqueta->setBuddy(barra_);
     if (!horizontal) {
         etiqueta->setWordWrap(true);
         etiqueta->setAlignment(Qt::AlignHCenter);
-        marco->setFixedWidth(etiqueta->fontMetrics().horizontalAdvance(QStringLiteral("Control")) +
-                             20);
+        setFixedWidth(etiqueta->fontMetrics().horizontalAdvance(QStringLiteral("Control")) + 20);
     }
     caja->addWidget(etiqueta);
-    caja->addWidget(barra, 1, horizontal ? Qt::Alignment() : Qt::AlignHCenter);
-    QObject::connect(barra, &QScrollBar::valueChanged, marco, [=](int valor) {
-        alCambiar(valor);
-        if (vuelveA0)
-            PonBarra(*barra, 0);
+    caja->addWidget(barra_, 1, horizontal ? Qt::Alignment() : Qt::AlignHCenter);
+    connect(barra_, &QScrollBar::valueChanged, this, [this, vuelve = datos.vuelveA0](int valor) {
+        Q_EMIT cambiada(valor);
+        if (vuelve)
+            PonBarra(*barra_, 0);
     });
-    return marco;
 }
 
 void PonBarra(QScrollBar& barra, int valor) {

@@ -1,9 +1,8 @@
 // A scroll bar in a frame with its title.
 #pragma once
 
+#include <QFrame>
 #include <QScrollBar>
-
-#include <functional>
 
 namespace quiralto {
 
@@ -13,13 +12,26 @@ struct DatosBarra {
     QString explicación; // what it does, as tool tip
     int mitad;           // it runs from -mitad to mitad
     int página;
+    Qt::Orientation orientación;
+    bool vuelveA0; // it is a pair of step buttons
 };
 
-// Makes the frame; its bar calls `alCambiar` with every value that the user gives it, at once or,
-// where it is to be a pair of step buttons (`vuelveA0`), once it is let go, and then goes back to
-// 0.
-QWidget* CreaMarcoBarra(const DatosBarra& datos, Qt::Orientation orientación, bool vuelveA0,
-                        const std::function<void(int)>& alCambiar);
+class MarcoBarra : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit MarcoBarra(const DatosBarra& datos, QWidget* padre = nullptr);
+
+    QScrollBar& DevBarra() const { return *barra_; }
+
+Q_SIGNALS:
+    // A value that the user gives the bar: at once or, of a pair of step buttons, once it is let
+    // go; those then go back to 0.
+    void cambiada(int valor);
+
+private:
+    QScrollBar* barra_;
+};
 
 // Moves a bar without its being taken for the user's doing.
 void PonBarra(QScrollBar& barra, int valor);

@@ -1,17 +1,19 @@
 #include "ui/formularios/panel_funciones.h"
 
-#include "engine/lenguaje/sintaxis.h"
-#include "engine/numeros/numero.h"
-#include "ui/dibujo/grafica.h"
+#include "ui/dibujo/colores.h"
+#include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
-#include "ui/grafica/marcas_eje.h"
 
-#include <QFontDatabase>
 #include <QGridLayout>
+#include <QPainter>
 #include <QSignalBlocker>
+
+#include <utility>
 
 namespace quiralto {
 namespace {
+
+constexpr int FilasPorFunción = 2; // of the grid: box and value
 
 QLineEdit* CreaValor(QWidget* padre, const QString& nombre, const QString& accesible) {
     auto* valor = new QLineEdit(padre);
@@ -22,7 +24,7 @@ QLineEdit* CreaValor(QWidget* padre, const QString& nombre, const QString& acces
     QPalette paleta; // but for one colour the desktop's, whatever it becomes
     paleta.setColor(QPalette::Base, Qt::transparent); // it is no box to type into
     valor->setPalette(paleta);
-    valor->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    valor->setFont(DevFuenteFija());
     return valor;
 }
 
@@ -42,28 +44,38 @@ private:
     int índice_;
 };
 
+void PonTexto(QLineEdit& caja, const std::string& texto) {
+    if (const QString nuevo = DevQString(texto); caja.text() != nuevo) {
+        caja.setText(nuevo);
+        caja.setCursorPosition(0);
+    }
+}
+
 } // namespace
 
-PanelFunciones::PanelFunciones(Contexto& contexto, VentanaGráfica& vista,
-                               std::function<void()> alCambiar, QWidget* padre)
-    : QWidget(padre), contexto_(contexto), vista_(vista), alCambiar_(std::move(alCambiar)) {
+PanelFunciones::PanelFunciones(QWidget* padre) : QWidget(padre) {
     auto* rejilla = new QGridLayout(this);
     rejilla->setContentsMargins(0, 0, 0, 0);
     rejilla->setHorizontalSpacing(6);
     rejilla->setVerticalSpacing(4);
     rejilla->setColumnStretch(3, 1);
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
+    for (int i = 0; i < CantidadFunciones; ++i) {
         CreaFila(i);
+        ConectaFila(i);
+    }
     trasSalir_.setSingleShot(true);
-    connect(&trasSalir_, &QTimer::timeout, this, [this] {
-        for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i)
-            AlSalir(i);
-    });
+    connect(&trasSalir_, &QTimer::timeout, this, &PanelFunciones::DiLasDejadas);
+    CreaPuntoX();
+}
+
+void PanelFunciones::CreaPuntoX() {
     txtPuntoX_ = CreaValor(this, QStringLiteral("txtPuntoX"), QStringLiteral("Punto X"));
     auto* etiqueta = new QLabel(QStringLiteral("&Punto X ="), this);
     etiqueta->setBuddy(txtPuntoX_);
-    rejilla->addWidget(etiqueta, 8, 0, 1, 3);
-    rejilla->addWidget(txtPuntoX_, 8, 3);
+    auto& rejilla = dynamic_cast<QGridLayout&>(*layout());
+    const int fila = CantidadFunciones * FilasPorFunción;
+    rejilla.addWidget(etiqueta, fila, 0, 1, 3);
+    rejilla.addWidget(txtPuntoX_, fila, 3);
 }
 
 void PanelFunciones::CreaFila(int índice) {
@@ -76,7 +88,7 @@ void PanelFunciones::CreaFila(int índice) {
     fila.chkfx->setObjectName(QStringLiteral("chkfx_") + número);
     fila.chkfx->setAccessibleName(QStringLiteral("Dibujar ") + función);
     fila.chkfx->setToolTip(QStringLiteral("Dibujar ") + función);
-    fila.txtfx = new CajaFórmula(this);
+    fila.txtfx = new CajaFormula(this);
     fila.txtfx->setObjectName(QStringLiteral("txtfx_") + número);
     fila.txtfx->setAccessibleName(función);
     fila.txtFxValor = CreaValor(this, QStringLiteral("txtFxValor_") + número,
@@ -87,118 +99,77 @@ void PanelFunciones::CreaFila(int índice) {
     auto* etiquetaValor = new QLabel(QStringLiteral("valor"), this);
     etiquetaValor->setBuddy(fila.txtFxValor);
     etiquetaValor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    rejilla.addWidget(fila.chkfx, 2 * índice, 0);
-    rejilla.addWidget(new Muestra(this, índice), 2 * índice, 1);
-    rejilla.addWidget(etiqueta, 2 * índice, 2);
-    rejilla.addWidget(fila.txtfx, 2 * índice, 3);
-    rejilla.addWidget(etiquetaValor, 2 * índice + 1, 2);
-    rejilla.addWidget(fila.txtFxValor, 2 * índice + 1, 3);
+    const int primera = índice * FilasPorFunción;
+    rejilla.addWidget(fila.chkfx, primera, 0);
+    rejilla.addWidget(new Muestra(this, índice), primera, 1);
+    rejilla.addWidget(etiqueta, primera, 2);
+    rejilla.addWidget(fila.txtfx, primera, 3);
+    rejilla.addWidget(etiquetaValor, primera + 1, 2);
+    rejilla.addWidget(fila.txtFxValor, primera + 1, 3);
+}
 
-    connect(fila.txtfx, &QLineEdit::textEdited, this, [this, índice] { AlEscribir(índice); });
-    connect(fila.txtfx, &QLineEdit::returnPressed, this, [this, índice] { AlPulsarIntro(índice); });
+void PanelFunciones::ConectaFila(int índice) {
+    Fila& fila = DevFila(índice);
+    connect(fila.txtfx, &QLineEdit::textChanged, this,
+            [this, índice](const QString& texto) { Q_EMIT escrita(índice, texto); });
+    connect(fila.txtfx, &QLineEdit::returnPressed, this,
+            [this, índice] { Q_EMIT confirmada(índice); });
     connect(fila.chkfx, &QCheckBox::toggled, this,
-            [this, índice](bool activa) { AlConmutar(índice, activa); });
-    // Not now: the click that takes the focus away comes first.
-    fila.txtfx->alSalir = [this] { trasSalir_.start(0); };
+            [this, índice](bool encendida) { Q_EMIT conmutada(índice, encendida); });
+    connect(fila.txtfx, &CajaFormula::enfocada, this, [this, índice](bool tiene) {
+        Q_EMIT motivoCambiado(tiene ? DevFila(índice).txtfx->DevMotivo() : QString());
+    });
+    // Not now: the click that takes the focus away comes first. One on the function's own check
+    // box decides alone, once it has gone up.
+    connect(fila.txtfx, &CajaFormula::abandonada, this, [this, índice] {
+        DevFila(índice).dejada = true;
+        trasSalir_.start(0);
+    });
+    connect(fila.chkfx, &QCheckBox::released, this, [this] { trasSalir_.start(0); });
 }
 
-void PanelFunciones::ActualizaX() {
-    txtPuntoX_->setText(DevQString(TextoEnRango(vista_.DevPuntoX(), vista_.DevAncho())));
-}
-
-void PanelFunciones::ActualizaFunciones() {
-    for (int i = 0; i < VentanaGráfica::CantidadFunciones; ++i) {
-        const std::optional<double> valor = vista_.DevValor(i);
-        DevFila(i).txtFxValor->setText(
-            valor ? DevQString(TextoNúmero(Redondea(*valor, contexto_.DígitosRedondeo)))
-                  : QString());
-        DevFila(i).txtFxValor->setCursorPosition(0);
+void PanelFunciones::DiLasDejadas() {
+    for (int i = 0; i < CantidadFunciones; ++i) {
+        Fila& fila = DevFila(i);
+        if (!fila.dejada || fila.chkfx->isDown())
+            continue;
+        fila.dejada = false;
+        if (!cerrado_ && !fila.txtfx->hasFocus())
+            Q_EMIT abandonada(i);
     }
 }
 
-// Makes the text of the box the formula of the function; after one message, where it is refused,
-// the function is off and the box has the focus.
-bool PanelFunciones::Comprueba(int índice) {
+void PanelFunciones::ActualizaX(const Escena& escena) {
+    PonTexto(*txtPuntoX_, escena.textoPuntoX);
+}
+
+void PanelFunciones::ActualizaFunciones(const Escena& escena) {
+    for (int i = 0; i < CantidadFunciones; ++i)
+        PonTexto(*DevFila(i).txtFxValor, escena.textosValor.at(static_cast<std::size_t>(i)));
+}
+
+void PanelFunciones::Copia(int índice, const FunciónGráfica& función) {
     Fila& fila = DevFila(índice);
-    fila.sinComprobar = false;
-    std::string texto = DevUtf8(fila.txtfx->text());
-    bool aceptada = false;
-    try {
-        aceptada = vista_.DefineFunción(índice, texto);
-    } catch (const ErrorEjecución&) {
-        // more operations than a program may have
-        vista_.QuitaFunción(índice);
-        contexto_.Avisa("La función es demasiado larga");
-    }
-    if (!aceptada) {
-        Rechaza(índice);
-        return false;
-    }
-    fila.txtfx->MarcaErrónea(false);
-    if (DevQString(texto) != fila.txtfx->text()) {
-        const QSignalBlocker callada(fila.txtfx);
-        fila.txtfx->selectAll();
-        fila.txtfx->insert(DevQString(texto)); // as one step that can be undone
-    }
-    return true;
+    fila.txtfx->Reescribe(DevQString(función.texto));
+    const QSignalBlocker callada(fila.chkfx);
+    if (fila.chkfx->isChecked() != función.encendida)
+        fila.chkfx->setDown(false); // its mouse button may have gone up over a message
+    fila.chkfx->setChecked(función.encendida);
 }
 
-void PanelFunciones::Rechaza(int índice) {
-    Fila& fila = DevFila(índice);
-    fila.txtfx->MarcaErrónea(true);
-    {
-        const QSignalBlocker callada(fila.chkfx);
-        fila.chkfx->setDown(false); // its mouse button may have gone up over the message
-        fila.chkfx->setChecked(false);
-    }
-    vista_.Activa(índice, false);
-    alCambiar_();
-    fila.txtfx->setFocus(Qt::OtherFocusReason);
-    fila.txtfx->SeleccionaTexto();
-}
-
-void PanelFunciones::AlEscribir(int índice) {
-    Fila& fila = DevFila(índice);
-    fila.sinComprobar = true;
-    const QString texto = fila.txtfx->text();
-    std::string fórmula = DevUtf8(texto);
-    fila.txtfx->MarcaErrónea(!texto.isEmpty() && CompruebaSintaxis(contexto_, fórmula).has_value());
-}
-
-// Enter is the wish to see the function.
-void PanelFunciones::AlPulsarIntro(int índice) {
-    if (!Comprueba(índice))
+void PanelFunciones::PonMotivo(int índice, const QString& motivo) {
+    CajaFormula& caja = *DevFila(índice).txtfx;
+    if (caja.DevMotivo() == motivo)
         return;
-    Fila& fila = DevFila(índice);
-    {
-        const QSignalBlocker callada(fila.chkfx);
-        fila.chkfx->setChecked(true);
-    }
-    vista_.Activa(índice, true);
-    alCambiar_();
+    caja.PonMotivo(motivo);
+    if (caja.hasFocus())
+        Q_EMIT motivoCambiado(motivo);
 }
 
-void PanelFunciones::AlSalir(int índice) {
-    Fila& fila = DevFila(índice);
-    if (cerrado_ || !fila.sinComprobar || fila.txtfx->hasFocus())
-        return;
-    if (fila.txtfx->text().isEmpty()) {
-        // Whoever empties a box wants no function, and no message about it.
-        fila.sinComprobar = false;
-        vista_.QuitaFunción(índice);
-        const QSignalBlocker callada(fila.chkfx);
-        fila.chkfx->setChecked(false);
-        alCambiar_();
-    } else if (Comprueba(índice)) {
-        alCambiar_();
-    }
-}
-
-void PanelFunciones::AlConmutar(int índice, bool activa) {
-    if (activa && !Comprueba(índice))
-        return;
-    vista_.Activa(índice, activa);
-    alCambiar_();
+void PanelFunciones::VuelveA(int índice) {
+    CajaFormula& caja = *DevFila(índice).txtfx;
+    caja.setFocus(Qt::OtherFocusReason);
+    caja.SeleccionaTexto();
 }
 
 } // namespace quiralto

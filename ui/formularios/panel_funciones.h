@@ -1,54 +1,62 @@
-// The four functions: their boxes, check boxes and values at the point X, and when a typed text
-// becomes a formula.
+// The four functions laid out: their boxes, check boxes and values at the point X. What stands in
+// them belongs to the model; here it is only shown and asked for.
 #pragma once
 
-#include "ui/grafica/ventana_grafica.h"
+#include "ui/grafica/escena.h"
 #include "ui/hoja/caja_formula.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QTimer>
 
-#include <array>
-#include <functional>
-
 namespace quiralto {
 
 class PanelFunciones : public QWidget {
+    Q_OBJECT
+
 public:
-    // `alCambiar` is called after a function has changed, or was switched on or off.
-    PanelFunciones(Contexto& contexto, VentanaGráfica& vista, std::function<void()> alCambiar,
-                   QWidget* padre = nullptr);
+    explicit PanelFunciones(QWidget* padre = nullptr);
 
-    void ActualizaX();
-    void ActualizaFunciones();
+    void ActualizaX(const Escena& escena);
+    void ActualizaFunciones(const Escena& escena);
 
-    // From here on no text is checked any more: the program ends.
+    // The text of a function's box and its check box, as they are.
+    void Copia(int índice, const FunciónGráfica& función);
+
+    // Why the text of a box is no formula; no reason where there is none to be told.
+    void PonMotivo(int índice, const QString& motivo);
+
+    // Back to a box whose text has been refused.
+    void VuelveA(int índice);
+
+    // From here on no box is left any more: the program ends.
     void Cierra() { cerrado_ = true; }
+
+Q_SIGNALS:
+    void escrita(int indice, const QString& texto);
+    void confirmada(int indice); // with Enter
+    void abandonada(int indice); // the focus has gone to another control
+    void conmutada(int indice, bool encendida);
+    // Why the text of the box with the focus is no formula; empty where nothing is to be said.
+    void motivoCambiado(const QString& motivo);
 
 private:
     struct Fila {
-        CajaFórmula* txtfx;
+        CajaFormula* txtfx;
         QCheckBox* chkfx;
         QLineEdit* txtFxValor;
-        bool sinComprobar = false; // the text has changed since it was last checked
+        bool dejada = false; // the box has lost the focus, which has not been told yet
     };
 
     void CreaFila(int índice);
+    void CreaPuntoX();
+    void ConectaFila(int índice);
     Fila& DevFila(int índice) { return filas_.at(static_cast<std::size_t>(índice)); }
-    bool Comprueba(int índice);
-    void Rechaza(int índice);
-    void AlEscribir(int índice);
-    void AlPulsarIntro(int índice);
-    void AlSalir(int índice);
-    void AlConmutar(int índice, bool activa);
+    void DiLasDejadas();
 
-    Contexto& contexto_;
-    VentanaGráfica& vista_;
-    std::function<void()> alCambiar_;
-    std::array<Fila, VentanaGráfica::CantidadFunciones> filas_{};
+    PorFunción<Fila> filas_{};
     QTimer trasSalir_; // runs out once a box has lost the focus
-    QLineEdit* txtPuntoX_;
+    QLineEdit* txtPuntoX_ = nullptr;
     bool cerrado_ = false;
 };
 

@@ -1,5 +1,8 @@
 #include "ui/formularios/visor_funciones.h"
 
+#include "ui/dibujo/grafica.h"
+#include "ui/dibujo/punto_x.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QMouseEvent>
@@ -27,16 +30,14 @@ VisorFunciones::VisorFunciones(QWidget* padre) : QWidget(padre) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void VisorFunciones::Muestra(EscenaGráfica escena) {
-    if (escena != escena_)
+void VisorFunciones::Muestra(const Escena& escena) {
+    if (escena.cuadro != cuadro_) {
+        cuadro_ = escena.cuadro;
         capa_ = {};
-    escena_ = std::move(escena);
-    update();
-}
-
-void VisorFunciones::MueveMarcador(const EscenaGráfica& escena) {
-    escena_.PuntoX = escena.PuntoX;
-    escena_.valores = escena.valores;
+    } else if (escena.marcador == marcador_) {
+        return;
+    }
+    marcador_ = escena.marcador;
     update();
 }
 
@@ -46,12 +47,12 @@ Lienzo VisorFunciones::DevLienzo() const {
             std::max(1.0, std::round(dpr))};
 }
 
-QPixmap VisorFunciones::DibujaCapa() const {
+QPixmap VisorFunciones::DibujaCapa(const Cuadro& cuadro) const {
     const Lienzo lienzo = DevLienzo();
     QPixmap capa(lienzo.área.size().toSize());
     QPainter pintor(&capa);
     pintor.setFont(DevFuenteRótulos(font(), lienzo.grosor));
-    DibujaGráfica(pintor, lienzo, escena_);
+    DibujaGráfica(pintor, lienzo, cuadro);
     pintor.end();
     capa.setDevicePixelRatio(devicePixelRatioF());
     return capa;
@@ -61,12 +62,12 @@ void VisorFunciones::paintEvent(QPaintEvent*) {
     const Lienzo lienzo = DevLienzo();
     if (capa_.size() != lienzo.área.size().toSize() ||
         capa_.devicePixelRatio() != devicePixelRatioF())
-        capa_ = DibujaCapa();
+        capa_ = DibujaCapa(cuadro_);
     QPainter pintor(this);
     pintor.drawPixmap(0, 0, capa_);
     pintor.save();
     pintor.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
-    DibujaPuntoX(pintor, lienzo, escena_);
+    DibujaPuntoX(pintor, lienzo, cuadro_.ventana, marcador_);
     pintor.restore();
     if (hasFocus()) {
         // not the style's, which may tint the paper
@@ -76,10 +77,10 @@ void VisorFunciones::paintEvent(QPaintEvent*) {
 }
 
 QImage VisorFunciones::DevImagen() const {
-    QPixmap capa = DibujaCapa();
+    QPixmap capa = DibujaCapa(SinAtenuadas(cuadro_));
     capa.setDevicePixelRatio(1);
     QPainter pintor(&capa);
-    DibujaPuntoX(pintor, DevLienzo(), escena_);
+    DibujaPuntoX(pintor, DevLienzo(), cuadro_.ventana, marcador_);
     pintor.end();
     return capa.toImage();
 }
@@ -87,21 +88,21 @@ QImage VisorFunciones::DevImagen() const {
 QPointF VisorFunciones::DevLógico(const QPointF& lugar) const {
     const Lienzo lienzo = DevLienzo();
     const qreal dpr = devicePixelRatioF();
-    const Ventana& v = escena_.ventana;
+    const Ventana& v = cuadro_.ventana;
     const double t = lienzo.DevT(lugar.y() * dpr + lienzo.grosor / 2);
     return {DevXfísico(v, lienzo.DevS(lugar.x() * dpr + lienzo.grosor / 2)),
             (v.YMáx - v.YMín) * (t + MediaEscala) / (2 * MediaEscala) + v.YMín};
 }
 
 QPointF VisorFunciones::DevSeparación() const {
-    const Ventana& v = escena_.ventana;
+    const Ventana& v = cuadro_.ventana;
     return {(v.XMáx - v.XMín) / std::max(1, width()), (v.YMáx - v.YMín) / std::max(1, height())};
 }
 
 bool VisorFunciones::event(QEvent* suceso) {
     switch (suceso->type()) {
     case QEvent::Leave:
-        deseos.señalar(std::nullopt);
+        Q_EMIT noApunta();
         break;
     case QEvent::FontChange:
     case QEvent::StyleChange:
@@ -117,16 +118,16 @@ void VisorFunciones::keyPressEvent(QKeyEvent* suceso) {
     const double pasos = suceso->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1;
     switch (suceso->key()) {
     case Qt::Key_Left:
-        deseos.moverX(-pasos);
+        Q_EMIT mueveX(-pasos);
         break;
     case Qt::Key_Right:
-        deseos.moverX(pasos);
+        Q_EMIT mueveX(pasos);
         break;
     case Qt::Key_Plus:
-        deseos.zoomGráfica(0);
+        Q_EMIT zoomGrafica(0);
         break;
     case Qt::Key_Minus:
-        deseos.zoomGráfica(3);
+        Q_EMIT zoomGrafica(3);
         break;
     default:
         QWidget::keyPressEvent(suceso);
@@ -149,10 +150,10 @@ void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
             setCursor(Qt::ClosedHandCursor);
             pulsado_ = lugar;
             const QPointF separación = DevSeparación();
-            deseos.desplazar(-desvío.x() * separación.x(), desvío.y() * separación.y());
+            Q_EMIT desplaza({-desvío.x() * separación.x(), desvío.y() * separación.y()});
         }
     }
-    deseos.señalar(lugar);
+    Q_EMIT apunta(lugar);
 }
 
 void VisorFunciones::mouseReleaseEvent(QMouseEvent* suceso) {
@@ -161,7 +162,7 @@ void VisorFunciones::mouseReleaseEvent(QMouseEvent* suceso) {
     pulsado_.reset();
     setCursor(Qt::CrossCursor);
     if (!arrastrado_)
-        deseos.fijarX(DevLógico(suceso->position()).x());
+        Q_EMIT fijaX(DevLógico(suceso->position()).x());
 }
 
 void VisorFunciones::wheelEvent(QWheelEvent* suceso) {
@@ -169,10 +170,10 @@ void VisorFunciones::wheelEvent(QWheelEvent* suceso) {
     rueda_ += suceso->angleDelta().y();
     const QPointF lógico = DevLógico(suceso->position());
     for (; rueda_ >= Paso; rueda_ -= Paso)
-        deseos.zoom(lógico.x(), lógico.y(), 2);
+        Q_EMIT zoom(lógico, 2);
     for (; rueda_ <= -Paso; rueda_ += Paso)
-        deseos.zoom(lógico.x(), lógico.y(), 0.5);
-    deseos.señalar(suceso->position());
+        Q_EMIT zoom(lógico, 0.5);
+    Q_EMIT apunta(suceso->position());
     suceso->accept();
 }
 

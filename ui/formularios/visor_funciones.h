@@ -1,44 +1,45 @@
 // The picture box of the graph: it shows a scene and turns pointer and keys into wishes.
 #pragma once
 
-#include "ui/dibujo/grafica.h"
+#include "ui/dibujo/lienzo.h"
+#include "ui/grafica/escena.h"
 
 #include <QPixmap>
 #include <QWidget>
 
-#include <functional>
+#include <optional>
 
 namespace quiralto {
 
 class VisorFunciones : public QWidget {
+    Q_OBJECT
+
 public:
     explicit VisorFunciones(QWidget* padre = nullptr);
 
-    // Shows the scene as it is now.
-    void Muestra(EscenaGráfica escena);
-    // The same scene with the point X elsewhere, which is drawn without the curves.
-    void MueveMarcador(const EscenaGráfica& escena);
-    const EscenaGráfica& DevEscena() const { return escena_; }
+    // Shows the scene's paper and marker. Where only the marker has moved, the paper stays.
+    void Muestra(const Escena& escena);
+    const Cuadro& DevCuadro() const { return cuadro_; }
 
-    // The whole picture at the screen's resolution.
+    // The picture at the screen's resolution, as it is copied: without what is being typed.
     QImage DevImagen() const;
 
     // Logical coordinates of a place on the widget, and how far apart two pixels are there.
     QPointF DevLógico(const QPointF& lugar) const;
     QPointF DevSeparación() const;
 
-    // What the user wants; set once by whoever owns the view.
-    struct Deseos {
-        std::function<void(double x)> fijarX;
-        std::function<void(double pasos)> moverX; // in tenths of the drawing scale
-        std::function<void(double x, double y, double factor)> zoom;
-        std::function<void(double dx, double dy)> desplazar;              // of the window, logical
-        std::function<void(int índice)> zoomGráfica;                      // an entry of that menu
-        std::function<void(const std::optional<QPointF>& lugar)> señalar; // none: pointer is away
-    };
-    Deseos deseos;
-
     QSize sizeHint() const override { return {640, 520}; }
+
+Q_SIGNALS:
+    // What the user wants.
+    void fijaX(double x);
+    void mueveX(double pasos); // in tenths of the drawing scale
+    void zoom(const QPointF& centro, double factor);
+    void desplaza(const QPointF& distancia); // of the window, logical
+    void zoomGrafica(int indice);            // an entry of that menu
+    // The pointer is over the picture, or away.
+    void apunta(const QPointF& lugar);
+    void noApunta();
 
 protected:
     bool event(QEvent* suceso) override;
@@ -51,9 +52,10 @@ protected:
 
 private:
     Lienzo DevLienzo() const; // in device pixels
-    QPixmap DibujaCapa() const;
+    QPixmap DibujaCapa(const Cuadro& cuadro) const;
 
-    EscenaGráfica escena_;
+    Cuadro cuadro_;
+    Marcador marcador_;
     QPixmap capa_; // everything but the marker; null where it has to be drawn anew
     std::optional<QPointF> pulsado_; // where the left button went down, while it is down
     bool arrastrado_ = false;

@@ -1,44 +1,86 @@
 #include "ui/hoja/caja_formula.h"
 
+#include "ui/dibujo/fuentes.h"
+#include "ui/dibujo/texto_qt.h"
+#include "ui/grafica/nombres.h"
+
+#include <QAbstractItemView>
 #include <QApplication>
-#include <QFontDatabase>
+#include <QSignalBlocker>
+#include <QStringList>
 #include <QValidator>
+
+#include <utility>
 
 namespace quiralto {
 namespace {
 
-// Sees every edit, however the text got in: what is pasted or dropped is upper-cased.
-class EnMayúsculasSiempre : public QValidator {
+// Sees every edit, however the text got in: what is pasted or dropped is upper-cased, and blanks
+// are swallowed as typed ones are.
+class ComoTecleado : public QValidator {
 public:
     using QValidator::QValidator;
-    State validate(QString& texto, int&) const override {
-        texto = EnMayúsculas(texto);
+    State validate(QString& texto, int& cursor) const override {
+        const QString delante = EnMayúsculas(QStringView(texto).left(cursor));
+        texto = delante + EnMayúsculas(QStringView(texto).mid(cursor));
+        cursor = static_cast<int>(delante.size());
         return Acceptable;
     }
 };
 
-} // namespace
-
-CajaFórmula::CajaFórmula(QWidget* padre, Pitido pitido)
-    : QLineEdit(padre), pitido_(std::move(pitido)) {
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    setValidator(new EnMayúsculasSiempre(this));
-    connect(this, &QLineEdit::inputRejected, this, [this] { pitido_(); }); // a text cut as too long
+bool EsLetra(QChar carácter) {
+    return carácter >= u'A' && carácter <= u'Z';
 }
 
-void CajaFórmula::MarcaErrónea(bool errónea) {
-    if (errónea == errónea_)
+QStringList DevNombres() {
+    QStringList nombres;
+    for (const std::string_view nombre : DevNombresFunción())
+        nombres += DevQString(nombre) + u'(';
+    nombres.sort();
+    return nombres;
+}
+
+// Whether the focus comes from another control of the window, not back from a menu, a list, a
+// dialog or another program.
+bool VieneDeOtroControl(Qt::FocusReason motivo) {
+    return motivo != Qt::PopupFocusReason && motivo != Qt::MenuBarFocusReason &&
+           motivo != Qt::ActiveWindowFocusReason;
+}
+
+bool EsTeclaDeElegir(const QEvent& suceso) {
+    if (suceso.type() != QEvent::KeyPress)
+        return false;
+    const int tecla = dynamic_cast<const QKeyEvent&>(suceso).key();
+    return tecla == Qt::Key_Tab || tecla == Qt::Key_Return || tecla == Qt::Key_Enter;
+}
+
+} // namespace
+
+CajaFormula::CajaFormula(QWidget* padre, Pitido pitido)
+    : QLineEdit(padre), pitido_(std::move(pitido)) {
+    setFont(DevFuenteFija());
+    setValidator(new ComoTecleado(this));
+    connect(this, &QLineEdit::inputRejected, this, [this] { pitido_(); }); // a text cut as too long
+    connect(this, &QLineEdit::textEdited, this, &CajaFormula::Ofrece);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] {
+        if (OfreceNombres() && DevComienzoNombre().isEmpty())
+            nombres_->popup()->hide();
+    });
+}
+
+void CajaFormula::PonMotivo(const QString& motivo) {
+    if (motivo == motivo_)
         return;
-    errónea_ = errónea;
-    setAccessibleDescription(errónea ? QStringLiteral("La fórmula no es correcta") : QString());
-    setToolTip(accessibleDescription());
+    motivo_ = motivo;
+    setAccessibleDescription(motivo); // which also announces it
+    setToolTip(motivo);
     PonColores();
 }
 
 // Mixed from the palette, so that a dark one stays dark.
-void CajaFórmula::PonColores() {
+void CajaFormula::PonColores() {
     QPalette paleta = QApplication::palette(this);
-    if (errónea_) {
+    if (EsErrónea()) {
         const bool oscura = paleta.color(QPalette::Base).lightness() < 128;
         paleta.setColor(QPalette::Base, oscura ? QColor(92, 34, 34) : QColor(255, 224, 224));
         paleta.setColor(QPalette::Text, oscura ? QColor(255, 214, 214) : QColor(140, 0, 0));
@@ -47,13 +89,90 @@ void CajaFórmula::PonColores() {
         setPalette(paleta);
 }
 
-void CajaFórmula::changeEvent(QEvent* suceso) {
+void CajaFormula::Reescribe(const QString& texto) {
+    if (texto == text())
+        return;
+    const QSignalBlocker callada(this);
+    selectAll();
+    insert(texto);
+}
+
+bool CajaFormula::OfreceNombres() const {
+    return nombres_ != nullptr && nombres_->popup()->isVisible();
+}
+
+// The letters before the cursor that can begin a name; those of an exponent cannot.
+QString CajaFormula::DevComienzoNombre() const {
+    const QString delante = text().left(cursorPosition());
+    qsizetype comienzo = delante.size();
+    while (comienzo > 0 && EsLetra(delante[comienzo - 1]))
+        --comienzo;
+    if (comienzo > 0 && (delante[comienzo - 1].isDigit() || delante[comienzo - 1] == u'.'))
+        return {};
+    return delante.mid(comienzo);
+}
+
+void CajaFormula::Ofrece() {
+    const QString comienzo = DevComienzoNombre();
+    if (comienzo.isEmpty() && nombres_ == nullptr)
+        return;
+    if (nombres_ == nullptr) {
+        nombres_ = new QCompleter(DevNombres(), this);
+        nombres_->setWidget(this);
+        nombres_->popup()->setFont(font());
+        nombres_->popup()->setObjectName(QStringLiteral("nombres"));
+        nombres_->popup()->setAccessibleName(QStringLiteral("Funciones"));
+        connect(nombres_, qOverload<const QString&>(&QCompleter::activated), this,
+                &CajaFormula::Escoge);
+    }
+    nombres_->setCompletionPrefix(comienzo);
+    if (comienzo.isEmpty() || nombres_->completionCount() == 0 || !hasFocus()) {
+        nombres_->popup()->hide();
+        return;
+    }
+    constexpr int AnchoLista = 140;
+    QRect lugar = cursorRect();
+    lugar.setWidth(AnchoLista);
+    nombres_->popup()->setCurrentIndex({});
+    nombres_->complete(lugar);
+}
+
+void CajaFormula::Escoge(const QString& nombre) {
+    const QString comienzo = DevComienzoNombre();
+    const bool tieneParéntesis = text().mid(cursorPosition()).startsWith(u'(');
+    const QString entero = tieneParéntesis ? nombre.chopped(1) : nombre;
+    cursorBackward(true, static_cast<int>(comienzo.size()));
+    insert(entero);
+}
+
+// Tab and Enter choose the row that is marked in the list; without one they are themselves.
+bool CajaFormula::event(QEvent* suceso) {
+    if (!OfreceNombres() || !EsTeclaDeElegir(*suceso))
+        return QLineEdit::event(suceso);
+    if (nombres_->popup()->currentIndex().isValid()) {
+        suceso->ignore();
+        return false;
+    }
+    nombres_->popup()->hide();
+    QLineEdit::event(suceso);
+    // The list has kept the key from whoever would have got it next, as the default button.
+    if (!suceso->isAccepted() && parentWidget() != nullptr)
+        QCoreApplication::sendEvent(parentWidget(), suceso);
+    suceso->accept();
+    return true;
+}
+
+void CajaFormula::changeEvent(QEvent* suceso) {
     QLineEdit::changeEvent(suceso);
     if (suceso->type() == QEvent::ApplicationPaletteChange)
         PonColores();
 }
 
-void CajaFórmula::keyPressEvent(QKeyEvent* suceso) {
+void CajaFormula::keyPressEvent(QKeyEvent* suceso) {
+    if (EsMnemónico(*suceso)) {
+        suceso->ignore();
+        return;
+    }
     if (!EsTecleado(*suceso)) {
         QLineEdit::keyPressEvent(suceso);
         return;
@@ -64,33 +183,31 @@ void CajaFórmula::keyPressEvent(QKeyEvent* suceso) {
     suceso->accept();
 }
 
-void CajaFórmula::inputMethodEvent(QInputMethodEvent* suceso) {
+void CajaFormula::inputMethodEvent(QInputMethodEvent* suceso) {
     FiltraSuceso(*suceso, pitido_);
     QLineEdit::inputMethodEvent(suceso);
 }
 
-void CajaFórmula::focusInEvent(QFocusEvent* suceso) {
+void CajaFormula::focusInEvent(QFocusEvent* suceso) {
     QLineEdit::focusInEvent(suceso);
+    Q_EMIT enfocada(true);
+    if (!VieneDeOtroControl(suceso->reason()))
+        return;
     SeleccionaTexto();
     entraConRatón_ = suceso->reason() == Qt::MouseFocusReason;
 }
 
-void CajaFórmula::mousePressEvent(QMouseEvent* suceso) {
+void CajaFormula::mousePressEvent(QMouseEvent* suceso) {
     QLineEdit::mousePressEvent(suceso);
     if (std::exchange(entraConRatón_, false))
         SeleccionaTexto(); // the click has just undone it
 }
 
-void CajaFórmula::focusOutEvent(QFocusEvent* suceso) {
+void CajaFormula::focusOutEvent(QFocusEvent* suceso) {
     QLineEdit::focusOutEvent(suceso);
-    switch (suceso->reason()) {
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-    case Qt::ActiveWindowFocusReason:
-        break;
-    default:
-        alSalir();
-    }
+    Q_EMIT enfocada(false);
+    if (VieneDeOtroControl(suceso->reason()))
+        Q_EMIT abandonada();
 }
 
 } // namespace quiralto

@@ -1,30 +1,45 @@
-// A one-line box for a formula or a number: the key filter, upper case for what is pasted, and its
-// whole text selected when it gets the focus.
+// A one-line box for a formula or a number: the key filter, upper case and no blanks in what is
+// pasted, its whole text selected when it gets the focus, the names of the functions offered while
+// one is typed, and the reason why a text is no formula.
 #pragma once
 
 #include "ui/hoja/filtro_teclas.h"
 
+#include <QCompleter>
 #include <QLineEdit>
 
 namespace quiralto {
 
-class CajaFórmula : public QLineEdit {
-public:
-    explicit CajaFórmula(QWidget* padre = nullptr, Pitido pitido = PitaEscritorio);
+class CajaFormula : public QLineEdit {
+    Q_OBJECT
 
-    // Shows whether the text is a formula that can be used: in the colours of the box, and in words
-    // for whoever does not see them.
-    void MarcaErrónea(bool errónea);
-    bool EsErrónea() const { return errónea_; }
+public:
+    explicit CajaFormula(QWidget* padre = nullptr, Pitido pitido = PitaEscritorio);
+
+    // Shows why the text cannot be used, or that it can where there is no reason: in the colours of
+    // the box, as its tooltip, and in words for whoever does not see them.
+    void PonMotivo(const QString& motivo);
+    const QString& DevMotivo() const { return motivo_; }
+    bool EsErrónea() const { return !motivo_.isEmpty(); }
+
+    // Another text as one step that can be undone; it does not count as typed.
+    void Reescribe(const QString& texto);
 
     // Selects the whole text.
     void SeleccionaTexto() { setSelection(0, static_cast<int>(text().size())); }
 
-    // Called when the box loses the focus to another control of the window (not to a menu, a dialog
-    // or another program).
-    std::function<void()> alSalir = [] {};
+    // The list of names while it is offered.
+    bool OfreceNombres() const;
+
+Q_SIGNALS:
+    // The box has lost the focus to another control of the window (not to a menu, a dialog or
+    // another program).
+    void abandonada();
+    // The focus has come, or has gone wherever to.
+    void enfocada(bool tiene);
 
 protected:
+    bool event(QEvent* suceso) override;
     void keyPressEvent(QKeyEvent* suceso) override;
     void inputMethodEvent(QInputMethodEvent* suceso) override;
     void focusInEvent(QFocusEvent* suceso) override;
@@ -34,10 +49,14 @@ protected:
 
 private:
     void PonColores();
+    void Ofrece();
+    void Escoge(const QString& nombre);
+    QString DevComienzoNombre() const;
 
     Pitido pitido_;
+    QCompleter* nombres_ = nullptr; // made when the first one is typed
+    QString motivo_;
     bool entraConRatón_ = false;
-    bool errónea_ = false;
 };
 
 } // namespace quiralto

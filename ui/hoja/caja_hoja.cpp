@@ -1,9 +1,9 @@
 #include "ui/hoja/caja_hoja.h"
 
 #include "commands/hoja.h"
+#include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
 
-#include <QFontDatabase>
 #include <QMimeData>
 #include <QTextBlock>
 
@@ -13,7 +13,7 @@ namespace quiralto {
 
 CajaHoja::CajaHoja(QWidget* padre, Pitido pitido)
     : QPlainTextEdit(padre), pitido_(std::move(pitido)) {
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(DevFuenteFija());
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int lugar, int, int añadidos) { EligeCorte(lugar, añadidos); });

@@ -1,6 +1,8 @@
 #include "ui/hoja/filtro_teclas.h"
 
+#include "commands/lineas.h"
 #include "engine/evaluacion/validadores.h"
+#include "ui/dibujo/texto_qt.h"
 
 #include <QApplication>
 
@@ -26,24 +28,45 @@ QString FiltraTecleado(const QString& texto, const Pitido& pitido) {
 }
 
 QString EnMayúsculas(QStringView texto) {
-    QString mayúsculas = texto.toString();
-    for (QChar& carácter : mayúsculas)
-        if (const char32_t tecla = FiltraTecla(carácter.unicode()); tecla != 0)
-            carácter = QChar(static_cast<char16_t>(tecla));
+    QString mayúsculas;
+    mayúsculas.reserve(texto.size());
+    for (const QChar carácter : texto) {
+        const char32_t tecla = FiltraTecla(carácter.unicode());
+        if (!carácter.isSpace())
+            mayúsculas += tecla == 0 ? carácter : QChar(static_cast<char16_t>(tecla));
+    }
     return mayúsculas;
 }
 
+namespace {
+
+// One line without its line break, behind `delante`.
+QString ConvierteLínea(QStringView delante, QStringView línea) {
+    if (delante.contains(u'\'') || EsDelPrograma(DevUtf8(delante.toString() + línea.toString())))
+        return línea.toString();
+    const qsizetype apóstrofo = línea.indexOf(u'\'');
+    if (apóstrofo < 0)
+        return EnMayúsculas(línea);
+    return EnMayúsculas(línea.left(apóstrofo)) + línea.mid(apóstrofo).toString();
+}
+
+} // namespace
+
 QString ConviertePegado(QStringView delante, const QString& texto) {
+    const auto esSalto = [](QChar c) {
+        return c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator;
+    };
     QString convertido;
     convertido.reserve(texto.size());
-    bool enComentario = delante.contains(u'\'');
-    for (const QChar carácter : texto) {
-        if (carácter == u'\n' || carácter == u'\r' || carácter == QChar::ParagraphSeparator)
-            enComentario = false;
-        else if (carácter == u'\'')
-            enComentario = true;
-        const char32_t tecla = enComentario ? 0 : FiltraTecla(carácter.unicode());
-        convertido += tecla == 0 ? carácter : QChar(static_cast<char16_t>(tecla));
+    qsizetype comienzo = 0;
+    for (qsizetype i = 0; i <= texto.size(); ++i) {
+        if (i < texto.size() && !esSalto(texto[i]))
+            continue;
+        convertido += ConvierteLínea(comienzo == 0 ? delante : QStringView(),
+                                     QStringView(texto).mid(comienzo, i - comienzo));
+        if (i < texto.size())
+            convertido += texto[i];
+        comienzo = i + 1;
     }
     return convertido;
 }

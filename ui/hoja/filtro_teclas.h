@@ -17,11 +17,13 @@ void PitaEscritorio();
 // The typed characters as FiltraTecla leaves them, with one beep where it swallowed any.
 QString FiltraTecleado(const QString& texto, const Pitido& pitido);
 
-// The text with every letter as FiltraTecla would have it; nothing is swallowed.
+// The text with every letter as FiltraTecla would have it, and without its blanks; nothing else is
+// swallowed.
 QString EnMayúsculas(QStringView texto);
 
 // Text that comes from the clipboard or is dropped behind `delante` (the part of its line before
-// the cursor): every line is upper-cased up to its first apostrophe, comment lines stay.
+// the cursor): every line is upper-cased and loses its blanks up to its first apostrophe; comments
+// and the lines that the program itself has written stay.
 QString ConviertePegado(QStringView delante, const QString& texto);
 
 // Whether the key would write characters into a text box, rather than move, edit or command.

@@ -13,7 +13,8 @@ bool PreparaAplicación(QApplication& aplicación) {
     std::setlocale(LC_NUMERIC, "C"); // the toolkit has set the user's
     QApplication::setApplicationName(QStringLiteral("Quiralto"));
     QApplication::setApplicationVersion(QString::fromLatin1(Versión));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quiralto"));
+    // The toolkit would append it to every title.
+    QGuiApplication::setApplicationDisplayName(QLatin1String(""));
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quiralto.Quiralto"));
     auto* traductor = new QTranslator(&aplicación);
     return traductor->load(QStringLiteral("qtbase_es"),

@@ -27,15 +27,15 @@ void Retardo(std::chrono::nanoseconds tiempo) {
         QCoreApplication::processEvents();
 }
 
-std::unique_ptr<frmGráficas> Form_Load(Contexto& contexto, VigilanteVentana& vigilante,
+std::unique_ptr<FrmGráficas> Form_Load(Contexto& contexto, VigilanteÓrdenes& vigilante,
                                        Impresora& impresora, std::chrono::milliseconds retardo) {
     using Reloj = std::chrono::steady_clock;
-    frmQuiralto presentación;
+    FrmQuiralto presentación;
     presentación.show();
     CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
     const Reloj::time_point fin = Reloj::now() + retardo;
     Retardo(retardo / 4); // by then it is painted
-    auto formulario = std::make_unique<frmGráficas>(contexto, vigilante, impresora);
+    auto formulario = std::make_unique<FrmGráficas>(contexto, vigilante, impresora);
     // Fonts, style, layout and the native window are made ready while nobody waits for them, and
     // as late as that can be, so that they are still at hand when the window is shown.
     constexpr std::chrono::milliseconds Antelación(50);

@@ -16,7 +16,7 @@ void Retardo(std::chrono::nanoseconds tiempo);
 
 // Runs the start-up order and returns the main form, not shown yet, with the splash form unloaded.
 // The controls are made while the splash form stands. The arguments outlive the form.
-std::unique_ptr<frmGráficas> Form_Load(Contexto& contexto, VigilanteVentana& vigilante,
+std::unique_ptr<FrmGráficas> Form_Load(Contexto& contexto, VigilanteÓrdenes& vigilante,
                                        Impresora& impresora,
                                        std::chrono::milliseconds retardo = RetardoInicial);
 

@@ -25,6 +25,7 @@ QMessageBox::Icon DevIcono(Icono icono) {
 } // namespace
 
 void MensajesVentana::Muestra(Icono icono, std::string_view texto) {
+    const VigilanteVentana::Alto alto(vigilante_);
     QMessageBox caja(DevIcono(icono), QStringLiteral("Quiralto"), DevQString(ConLf(texto)),
                      QMessageBox::Ok, QApplication::activeWindow());
     caja.setTextFormat(Qt::PlainText);

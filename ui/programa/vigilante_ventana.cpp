@@ -4,22 +4,39 @@
 
 namespace quiralto {
 
-VigilanteVentana::Guardia::Guardia(VigilanteVentana& vigilante) : vigilante_(vigilante) {
-    vigilante_.enMarcha_ = true;
-    vigilante_.siguiente_ = vigilante_.espera_;
-    vigilante_.reloj_.start();
+void VigilanteVentana::Empieza() {
+    enMarcha_ = true;
+    antes_ = {};
+    siguiente_ = espera_;
+    reloj_.start();
 }
 
-VigilanteVentana::Guardia::~Guardia() {
+void VigilanteVentana::Acaba() {
+    diálogo_.reset();
+    enMarcha_ = false;
+}
+
+VigilanteVentana::Alto::Alto(VigilanteVentana& vigilante) : vigilante_(vigilante) {
+    if (vigilante_.altos_++ > 0 || !vigilante_.enMarcha_)
+        return;
+    vigilante_.antes_ = vigilante_.DevTranscurrido();
     vigilante_.diálogo_.reset();
-    vigilante_.enMarcha_ = false;
+}
+
+VigilanteVentana::Alto::~Alto() {
+    if (--vigilante_.altos_ == 0)
+        vigilante_.reloj_.start();
+}
+
+std::chrono::milliseconds VigilanteVentana::DevTranscurrido() const {
+    return antes_ + std::chrono::milliseconds(reloj_.elapsed());
 }
 
 bool VigilanteVentana::Continúa() {
     constexpr std::chrono::milliseconds Intervalo{50};
-    if (!enMarcha_)
+    if (!enMarcha_ || altos_ > 0)
         return true;
-    const std::chrono::milliseconds ahora(reloj_.elapsed());
+    const std::chrono::milliseconds ahora = DevTranscurrido();
     if (ahora < siguiente_)
         return true;
     siguiente_ = ahora + Intervalo;

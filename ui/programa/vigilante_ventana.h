@@ -2,7 +2,7 @@
 // with "Cancelar", and keeps the window painted.
 #pragma once
 
-#include "engine/base/vigilante.h"
+#include "ui/hoja/ejecutor.h"
 
 #include <QElapsedTimer>
 #include <QProgressDialog>
@@ -12,33 +12,38 @@
 
 namespace quiralto {
 
-class VigilanteVentana : public Vigilante {
+class VigilanteVentana : public VigilanteÓrdenes {
 public:
     explicit VigilanteVentana(std::chrono::milliseconds espera = std::chrono::seconds(1))
         : espera_(espera) {}
 
-    // While a watch lives a command runs, and only one at a time: events that are handled under the
-    // dialog must not start a second one.
-    class Guardia {
-    public:
-        explicit Guardia(VigilanteVentana& vigilante);
-        ~Guardia();
-        Guardia(const Guardia&) = delete;
-        Guardia& operator=(const Guardia&) = delete;
-
-    private:
-        VigilanteVentana& vigilante_;
-    };
+    void Empieza() override;
+    void Acaba() override;
     bool EnMarcha() const { return enMarcha_; }
 
     bool Continúa() override;
 
+    // While it lives the user is asked something: the dialog is gone, and time stands still.
+    class Alto {
+    public:
+        explicit Alto(VigilanteVentana& vigilante);
+        ~Alto();
+        Alto(const Alto&) = delete;
+        Alto& operator=(const Alto&) = delete;
+
+    private:
+        VigilanteVentana& vigilante_;
+    };
+
 private:
     void MuestraDiálogo();
+    std::chrono::milliseconds DevTranscurrido() const;
 
     std::chrono::milliseconds espera_;
     bool enMarcha_ = false;
-    QElapsedTimer reloj_;
+    int altos_ = 0;
+    QElapsedTimer reloj_;                    // of the time since it last began to run
+    std::chrono::milliseconds antes_{0};     // that had passed by then
     std::chrono::milliseconds siguiente_{0}; // when the events are handled next
     std::unique_ptr<QProgressDialog> diálogo_;
 };

@@ -1,13 +1,14 @@
 // The About window.
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 
 namespace quiralto {
 
-class forAcercaDe : public QWidget {
+// Closing it unloads it.
+class FrmAcercaDe : public QDialog {
 public:
-    explicit forAcercaDe(QWidget* padre);
+    explicit FrmAcercaDe(QWidget* padre);
 
 private:
     void Command1_Click() { close(); }

@@ -1,12 +1,11 @@
-#include "ui/formularios/form_ayuda.h"
+#include "ui/formularios/frm_ayuda.h"
 
 #include "commands/hoja.h"
+#include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
 
-#include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quiralto {
@@ -77,8 +76,8 @@ QString DevTextoAyuda() {
     return DevQString(ConCrLf(Notación) + "\r\n\r\n" + ConCrLf(Variables));
 }
 
-formAyuda::formAyuda(QWidget* padre)
-    : QWidget(padre, Qt::Window), txtAyuda_(new QPlainTextEdit(this)) {
+FrmAyuda::FrmAyuda(QWidget* padre)
+    : QDialog(padre, Qt::Window), txtAyuda_(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("formAyuda"));
     setWindowTitle(QStringLiteral("Temas de ayuda"));
     auto* Label1 = new QLabel(QStringLiteral("SELECCIONE UN TEMA DE AYUDA"), this);
@@ -91,21 +90,19 @@ formAyuda::formAyuda(QWidget* padre)
     txtAyuda_->setAccessibleName(QStringLiteral("Tema de ayuda"));
     txtAyuda_->setReadOnly(true);
     txtAyuda_->setTabChangesFocus(true);
-    txtAyuda_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txtAyuda_->setFont(DevFuenteFija());
     Label1->setBuddy(cmdAyuda);
     auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(12, 12, 12, 12);
     columna->addWidget(Label1);
     columna->addWidget(cmdAyuda);
     columna->addWidget(txtAyuda_, 1);
-    connect(cmdAyuda, &QPushButton::clicked, this, [this] { cmdAyuda_Click(); });
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
-            &QWidget::close);
+    connect(cmdAyuda, &QPushButton::clicked, this, &FrmAyuda::cmdAyuda_Click);
     cmdAyuda->setFocus();
     resize(680, 560);
 }
 
-void formAyuda::cmdAyuda_Click() {
+void FrmAyuda::cmdAyuda_Click() {
     txtAyuda_->setPlainText(DevQString(ConLf(DevUtf8(DevTextoAyuda()))));
 }
 

@@ -1,13 +1,14 @@
 // The help window: the notation that the program accepts.
 #pragma once
 
+#include <QDialog>
 #include <QPlainTextEdit>
 
 namespace quiralto {
 
-class formAyuda : public QWidget {
+class FrmAyuda : public QDialog {
 public:
-    explicit formAyuda(QWidget* padre);
+    explicit FrmAyuda(QWidget* padre);
 
 private:
     void cmdAyuda_Click();

@@ -1,15 +1,16 @@
-#include "ui/formularios/for_acerca_de.h"
+#include "ui/formularios/frm_acerca_de.h"
 
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quiralto {
 
-forAcercaDe::forAcercaDe(QWidget* padre) : QWidget(padre, Qt::Dialog) {
+FrmAcercaDe::FrmAcercaDe(QWidget* padre) : QDialog(padre) {
     setObjectName(QStringLiteral("forAcercaDe"));
     setWindowTitle(QStringLiteral("Acerca de"));
+    setAttribute(Qt::WA_DeleteOnClose);
     auto* Label1 =
         new QLabel(QStringLiteral("****************************************\n"
                                   "Quiralto\n"
@@ -18,19 +19,17 @@ forAcercaDe::forAcercaDe(QWidget* padre) : QWidget(padre, Qt::Dialog) {
                    this);
     Label1->setObjectName(QStringLiteral("Label1"));
     Label1->setAlignment(Qt::AlignCenter);
-    auto* Command1 = new QPushButton(QStringLiteral("Cerrar"), this);
+    auto* botones = new QDialogButtonBox(this);
+    botones->setCenterButtons(true);
+    auto* Command1 = botones->addButton(QStringLiteral("Cerrar"), QDialogButtonBox::RejectRole);
     Command1->setObjectName(QStringLiteral("Command1"));
     Command1->setDefault(true);
     auto* columna = new QVBoxLayout(this);
     columna->setContentsMargins(24, 20, 24, 16);
     columna->setSpacing(16);
     columna->addWidget(Label1);
-    columna->addWidget(Command1, 0, Qt::AlignHCenter);
-    connect(Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this,
-            &QWidget::close);
-    connect(new QShortcut(QKeySequence(Qt::Key_Return), this), &QShortcut::activated, this,
-            &QWidget::close);
+    columna->addWidget(botones);
+    connect(botones, &QDialogButtonBox::rejected, this, &FrmAcercaDe::Command1_Click);
     Command1->setFocus();
 }
 

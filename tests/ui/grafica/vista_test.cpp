@@ -1,11 +1,12 @@
-// The view without a window: transforms, zooms, scrolls, and changes that are undone as a whole.
+// The view: transforms, zooms, scrolls, and changes that are undone as a whole.
 
 #include "tests/apoyo.h"
-#include "ui/grafica/ventana_grafica.h"
+#include "ui/grafica/escena.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
 #include <random>
 
 namespace quiralto {
@@ -22,19 +23,35 @@ Ventana DevCuadrado(double mitad) {
 
 class VistaGráfica : public testing::Test {
 protected:
-    void Define(int índice, std::string texto) {
-        ASSERT_TRUE(vista.DefineFunción(índice, texto));
-        vista.Activa(índice, true);
+    void Define(int índice, const char* texto) {
+        funciones.Escribe(índice, texto);
+        ASSERT_TRUE(funciones.Asienta(índice));
+        funciones.Enciende(índice);
+    }
+    bool ZoomGráfica(int índice) {
+        return vista.ZoomGráfica(índice, funciones.DevPrimeraFunciónDefinida(vista.DevPuntoX()));
+    }
+    // Every function can be sampled with every number of points, quickly, whatever has been done.
+    void CompruebaUtilizable() {
+        const Ventana& v = vista.DevVentana();
+        ASSERT_LT(v.XMín, v.XMáx);
+        ASSERT_LT(v.YMín, v.YMáx);
+        for (const int puntos : {150, 4800}) {
+            const std::size_t n =
+                CargaPuntos(banco.contexto, *funciones[0].programa, v, puntos).size();
+            ASSERT_GT(n, 100U) << v;
+            ASSERT_LT(n, 10000U) << v;
+        }
     }
 
     Banco banco;
-    VentanaGráfica vista{banco.contexto};
+    Vista vista;
+    FuncionesGráficas funciones{banco.contexto};
 };
 
-TEST_F(VistaGráfica, EmpiezaDe10EnDiezYCon300Puntos) {
+TEST_F(VistaGráfica, EmpiezaDe10EnDiez) {
     EXPECT_EQ(vista.DevVentana(), DevCuadrado(10));
     EXPECT_EQ(vista.DevPuntoX(), 0);
-    EXPECT_EQ(vista.CantidadPuntos, 300);
     EXPECT_EQ(vista.UnidadX(), 1);
     EXPECT_EQ(vista.UnidadY(), 1);
     EXPECT_EQ(DevXlógico(vista.DevVentana(), -10), -10);
@@ -49,12 +66,12 @@ TEST_F(VistaGráfica, ElZoomDeLaGráficaAumentaEnTornoAlPuntoX) {
     const double mitades[] = {5, 2.5, 1.25, 20, 40, 80};
     for (int i = 0; i < 6; ++i) {
         ASSERT_TRUE(vista.ValoresPorDefecto());
-        EXPECT_TRUE(vista.ZoomGráfica(i));
+        EXPECT_TRUE(ZoomGráfica(i));
         EXPECT_EQ(vista.DevVentana(), DevCuadrado(mitades[i])) << i;
     }
     ASSERT_TRUE(vista.ValoresPorDefecto());
     ASSERT_TRUE(vista.PonPuntoX(4));
-    EXPECT_TRUE(vista.ZoomGráfica(0));
+    EXPECT_TRUE(ZoomGráfica(0));
     EXPECT_EQ(vista.DevVentana(), (Ventana{7, -3, 7, -3}));
     EXPECT_EQ(vista.DevPuntoX(), 4);
 }
@@ -63,14 +80,15 @@ TEST_F(VistaGráfica, ElZoomDeLaGráficaTomaLaPrimeraFunciónConValor) {
     Define(0, "SQR(X)");
     Define(1, "X");
     Define(2, "7");
-    vista.Activa(1, false);
+    funciones.Apaga(1);
     ASSERT_TRUE(vista.PonPuntoX(-2));
-    EXPECT_EQ(vista.DevPrimeraFunciónDefinida().índice, 2);
-    EXPECT_EQ(vista.DevPrimeraFunciónDefinida().valor, 7);
-    vista.Activa(2, false);
-    EXPECT_EQ(vista.DevPrimeraFunciónDefinida().índice, 4);
+    ASSERT_TRUE(funciones.DevPrimeraFunciónDefinida(-2).has_value());
+    EXPECT_EQ(funciones.DevPrimeraFunciónDefinida(-2)->x, -2);
+    EXPECT_EQ(funciones.DevPrimeraFunciónDefinida(-2)->y, 7);
+    funciones.Apaga(2);
+    EXPECT_FALSE(funciones.DevPrimeraFunciónDefinida(-2).has_value());
     ASSERT_TRUE(vista.FijaExtremos({30, 10, 8, 0}));
-    EXPECT_TRUE(vista.ZoomGráfica(0)); // about the middle
+    EXPECT_TRUE(ZoomGráfica(0)); // about the middle
     EXPECT_EQ(vista.DevVentana(), (Ventana{25, 15, 6, 2}));
 }
 
@@ -130,29 +148,17 @@ TEST_F(VistaGráfica, RecuperaLoQueSeSalvó) {
     EXPECT_EQ(vista.DevPuntoX(), 2);
 }
 
-// Every function can be sampled with every number of points, quickly, whatever has been done.
-void CompruebaUtilizable(VentanaGráfica& vista) {
-    const Ventana& v = vista.DevVentana();
-    ASSERT_LT(v.XMín, v.XMáx);
-    ASSERT_LT(v.YMín, v.YMáx);
-    for (const int puntos : {150, 4800}) {
-        vista.CantidadPuntos = puntos;
-        const std::size_t n = vista.CargaPuntos(0).size();
-        ASSERT_GT(n, 100U) << v;
-        ASSERT_LT(n, 10000U) << v;
-    }
-}
-
 TEST_F(VistaGráfica, MilZoomsDejanUnaVistaUtilizable) {
     Define(0, "1");
-    using Zoom = bool (VentanaGráfica::*)(int);
-    for (const Zoom zoom : {&VentanaGráfica::ZoomGráfica, &VentanaGráfica::ZoomEjeX,
-                            &VentanaGráfica::ZoomEjeY, &VentanaGráfica::ZoomEjesXY})
+    const std::function<bool(int)> zooms[] = {
+        [&](int i) { return ZoomGráfica(i); }, [&](int i) { return vista.ZoomEjeX(i); },
+        [&](int i) { return vista.ZoomEjeY(i); }, [&](int i) { return vista.ZoomEjesXY(i); }};
+    for (const auto& zoom : zooms)
         for (int índice = 0; índice < 6; ++índice) {
             ASSERT_TRUE(vista.ValoresPorDefecto() && vista.PonPuntoX(1 / 3.0));
             for (int i = 0; i < 1000; ++i)
-                (vista.*zoom)(índice);
-            CompruebaUtilizable(vista);
+                zoom(índice);
+            CompruebaUtilizable();
         }
 }
 
@@ -166,7 +172,7 @@ TEST_F(VistaGráfica, CambiosAlAzarDejanUnaVistaUtilizable) {
         const Ventana v = vista.DevVentana();
         switch (azar() % 7) {
         case 0:
-            vista.ZoomGráfica(static_cast<int>(azar() % 6));
+            ZoomGráfica(static_cast<int>(azar() % 6));
             break;
         case 1:
             vista.ZoomEjeX(static_cast<int>(azar() % 6));
@@ -178,48 +184,17 @@ TEST_F(VistaGráfica, CambiosAlAzarDejanUnaVistaUtilizable) {
             vista.DesplazaY(static_cast<int>(azar() % 41) - 20);
             break;
         case 4:
-            vista.ZoomEn(entre(v.XMín, v.XMáx), entre(v.YMín, v.YMáx), azar() % 2 == 0 ? 2 : 0.5);
+            vista.ZoomEn({entre(v.XMín, v.XMáx), entre(v.YMín, v.YMáx)}, azar() % 2 == 0 ? 2 : 0.5);
             break;
         case 5:
             vista.PonPuntoX(DevXfísico(v, entre(-10, 10)));
             break;
         default:
-            vista.ZoomEn(entre(v.XMín, v.XMáx), entre(v.YMín, v.YMáx), 2);
+            vista.ZoomEn({entre(v.XMín, v.XMáx), entre(v.YMín, v.YMáx)}, 2);
         }
         if (i % 20 == 0)
-            CompruebaUtilizable(vista);
+            CompruebaUtilizable();
     }
-}
-
-TEST_F(VistaGráfica, UnaFunciónRechazadaQuedaApagada) {
-    Define(1, "X");
-    std::string mala = "X+";
-    EXPECT_FALSE(vista.DefineFunción(1, mala));
-    EXPECT_EQ(banco.TomaMensajes(),
-              (std::vector{Mensaje{Icono::Exclamación, "No está permitido terminar con: +"}}));
-    EXPECT_FALSE(vista.EstáActiva(1));
-    EXPECT_EQ(vista.DevValor(1), std::nullopt);
-}
-
-TEST_F(VistaGráfica, UnPuntoSinValorNoDejaFallo) {
-    Define(0, "1/X");
-    EXPECT_EQ(vista.DevValor(0), std::nullopt);
-    EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
-    vista.CargaPuntos(0);
-    EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
-}
-
-TEST_F(VistaGráfica, MuestreaConLosPuntosPedidos) {
-    Define(0, "X^2");
-    Define(1, "SQR(X)");
-    vista.CantidadPuntos = 4800;
-    const std::vector<Punto> parábola = vista.CargaPuntos(0);
-    EXPECT_NEAR(static_cast<double>(parábola.size()), 4801, 1);
-    for (const Punto& punto : parábola)
-        EXPECT_EQ(punto.y == 11.0F, std::fabs(punto.x) > std::sqrt(10.0F)) << punto.x;
-    for (const Punto& punto : vista.CargaPuntos(1))
-        EXPECT_GE(punto.x, 0);
-    EXPECT_NEAR(static_cast<double>(vista.CargaPuntos(1).size()), 2401, 1);
 }
 
 } // namespace

@@ -1,0 +1,20 @@
+// The colours of the graph. It stands on paper: they are the same in every palette.
+#pragma once
+
+#include <QColor>
+
+namespace quiralto {
+
+inline constexpr QColor Papel(255, 255, 255);
+inline constexpr QColor ColorRejilla(228, 228, 232);
+inline constexpr QColor ColorEje(120, 120, 128);
+inline constexpr QColor ColorTexto(70, 70, 76);
+inline constexpr QColor ColorMarcador(0, 130, 90);
+
+// The colour of a function's curve; black for any other index.
+QColor DevColor(int índice);
+
+// The colour of a curve that stays while its text is being typed.
+QColor DevColorAtenuado(int índice);
+
+} // namespace quiralto

@@ -1,0 +1,12 @@
+// The marker line of the point X, with a dot on each function.
+#pragma once
+
+#include "ui/dibujo/lienzo.h"
+#include "ui/grafica/escena.h"
+
+namespace quiralto {
+
+void DibujaPuntoX(QPainter& pintor, const Lienzo& lienzo, const Ventana& ventana,
+                  const Marcador& marcador);
+
+} // namespace quiralto
