@@ -132,6 +132,11 @@ private:
             if (primero)
                 continue;
             Nodo& anterior = nodos_[lugar->second];
+            // The same function again, too far behind to have been found equal, or a pair already.
+            if (anterior.paso.código == código || anterior.paso.destinoCoseno != 0) {
+                lugar->second = n;
+                continue;
+            }
             const std::size_t seno =
                 código == Operación::Sin ? nodos_[n].paso.destino : anterior.paso.destino;
             const std::size_t coseno =

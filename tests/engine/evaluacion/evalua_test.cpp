@@ -348,6 +348,22 @@ TEST(EvalúaBloque, LosProgramasDeMuchasFilasDanLoMismo) {
     CompruebaBloque(hondo + "X" + std::string(9000, ')'), {1, 2, -3.5, 0, 1e300});
 }
 
+// Sines and cosines of one argument, too far from each other to be found equal: each keeps its own.
+TEST(EvalúaBloque, LosSenosYCosenosRepetidosLejosDanLoMismo) {
+    Generador generador(7);
+    std::string relleno;
+    for (int i = 0; i < 40; ++i)
+        relleno += "+(X-" + std::to_string(i) + ")^2";
+    for (int i = 0; i < 200 && !HasFatalFailure(); ++i) {
+        // The inner groups, with all of their sums, are compiled between the outer functions.
+        std::string texto = "X";
+        for (std::size_t k = 2 + generador.Hasta(4); k > 0; --k)
+            texto = (generador.Hasta(2) == 0 ? "SIN(X)+(" : "COS(X)-(") + texto + relleno + ')';
+        CompruebaBloque(texto, EquisDe(32, generador));
+        CompruebaBloque(texto, EquisDe(300, generador));
+    }
+}
+
 TEST(EvalúaBloque, PreguntaAlVigilante) {
     Banco banco;
     banco.vigilante.continúa = [] { return false; };
