@@ -1,12 +1,16 @@
 // The numeric commands against mathematics of their own: functions are built from the answers.
 
 #include "commands/ordenes.h"
+#include "engine/lenguaje/compila.h"
 #include "engine/numeros/numero.h"
 #include "tests/apoyo.h"
+#include "tests/engine/generador.h"
+#include "tests/engine/lenguaje/derivada_ingenua.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <random>
 #include <span>
 
@@ -256,6 +260,148 @@ TEST_F(Análisis, ElÁreaDeUnaRectaQueNoCambiaDeSignoEsExacta) {
 }
 
 // Whatever the interval, a command asks the watcher a bounded number of times.
+// What the commands report on generated functions, against a fine scan of derivatives that are
+// calculated on pairs (value, derivative) and by their differences.
+
+constexpr double Paso = (B - A) / 1000;
+constexpr int PorPaso = 4;
+constexpr int Alrededor = 4 * PorPaso; // fine points to either side that tell a place apart
+
+using Derivadas = std::vector<std::optional<double>>; // at the fine points
+
+double PuntoFino(std::size_t i) {
+    return A + static_cast<double>(i) * Paso / PorPaso;
+}
+
+std::optional<double> PrimeraEn(const Programa& f, double x) {
+    const std::optional<Dual> dual = EvalúaDual(f, x);
+    return dual ? std::optional(static_cast<double>(dual->derivada)) : std::nullopt;
+}
+
+std::optional<double> SegundaEn(const Programa& f, double x) {
+    constexpr double e = 0x1p-14;
+    const auto antes = EvalúaDual(f, x - e);
+    const auto después = EvalúaDual(f, x + e);
+    if (!antes || !después)
+        return std::nullopt;
+    return static_cast<double>((después->derivada - antes->derivada) / (2 * e));
+}
+
+Derivadas Recorre(const Programa& f, std::optional<double> (*derivada)(const Programa&, double)) {
+    Derivadas valores;
+    for (std::size_t i = 0; i <= 1000 * PorPaso; ++i)
+        valores.push_back(derivada(f, PuntoFino(i)));
+    return valores;
+}
+
+struct Entorno {
+    bool liso = true; // defined, and nowhere so small that its sign is in doubt but at a change
+    int cambios = 0;
+    bool monótono = true; // neither a pole nor a jump back
+};
+
+Entorno DevEntorno(const Derivadas& g, std::size_t i) {
+    Entorno entorno;
+    double mayor = 0;
+    for (std::size_t k = i - Alrededor; k <= i + Alrededor; ++k) {
+        if (!g[k])
+            return {.liso = false};
+        mayor = std::max(mayor, std::fabs(*g[k]));
+    }
+    const bool sube = *g[i + Alrededor] > *g[i - Alrededor];
+    for (std::size_t k = i - Alrededor; k < i + Alrededor; ++k) {
+        entorno.monótono = entorno.monótono && (*g[k + 1] > *g[k]) == sube;
+        entorno.cambios += std::signbit(*g[k]) != std::signbit(*g[k + 1]) ? 1 : 0;
+    }
+    const double salto = std::fabs(*g[i + 1] - *g[i]);
+    // A pole grows towards its change of sign, a zero towards the ends.
+    entorno.liso = mayor > 1e-4 && mayor < 1e4 && std::fabs(*g[i - Alrededor]) > mayor / 10 &&
+                   std::fabs(*g[i + Alrededor]) > mayor / 10 &&
+                   (entorno.cambios == 0 || (std::fabs(*g[i]) < mayor / 4 && salto > mayor / 1000));
+    return entorno;
+}
+
+struct Comparación {
+    std::size_t hallados = 0;
+    std::size_t ausentes = 0;
+};
+
+// Every clear change of sign of g is among the places, and no place is where g clearly has none.
+void ComparaConRecorrido(const std::string& f, const Derivadas& g,
+                         const std::vector<double>& lugares, Comparación& total) {
+    for (std::size_t i = Alrededor; i + Alrededor + 1 < g.size(); ++i) {
+        if (!g[i] || !g[i + 1] || std::signbit(*g[i]) == std::signbit(*g[i + 1]))
+            continue;
+        const Entorno entorno = DevEntorno(g, i);
+        if (!entorno.liso || !entorno.monótono || entorno.cambios != 1)
+            continue;
+        ++total.hallados;
+        EXPECT_TRUE(std::ranges::any_of(
+            lugares, [&](double x) { return std::fabs(x - PuntoFino(i)) < Paso / 4; }))
+            << f << " has a change of sign at " << PuntoFino(i);
+    }
+    for (const double x : lugares) {
+        const auto i = static_cast<std::size_t>((x - A) / Paso * PorPaso);
+        if (i < Alrededor || i + Alrededor >= g.size())
+            continue;
+        const Entorno entorno = DevEntorno(g, i);
+        if (!entorno.liso)
+            continue;
+        ++total.ausentes;
+        EXPECT_GT(entorno.cambios, 0) << f << " has no change of sign at " << x;
+    }
+}
+
+// f grows on the left of a maximum and falls on its right.
+void ComparaMáximos(const std::string& f, const Derivadas& g, const std::vector<double>& lugares) {
+    for (const double x : lugares) {
+        const auto i = static_cast<std::size_t>((x - A) / Paso * PorPaso);
+        if (i < Alrededor || i + Alrededor >= g.size())
+            continue;
+        const Entorno entorno = DevEntorno(g, i);
+        if (!entorno.liso || entorno.cambios != 1)
+            continue;
+        EXPECT_GT(*g[i - Alrededor], 0) << f << " at " << x;
+        EXPECT_LT(*g[i + Alrededor], 0) << f << " at " << x;
+    }
+}
+
+std::vector<double> LugaresDe(Banco& banco, const std::string& f, const char* orden) {
+    Hoja hoja(ConIntervalo(f));
+    EjecutaInstrucciones(banco.contexto, hoja, orden);
+    std::vector<double> lugares;
+    for (const Hallazgo& hallazgo : hoja.hallazgos)
+        lugares.push_back(hallazgo.x);
+    return lugares;
+}
+
+TEST(AnálisisGenerado, ExtremosEInflexionesConcuerdanConUnRecorridoFino) {
+    constexpr int Semilla = 31;
+    Generador generador(Semilla);
+    generador.números = {"1", "2", "3", ".5", "4", "7", "2.5"};
+    generador.funciones = {"SIN", "COS", "EXP", "ATN", "LOG"};
+    Comparación extremos;
+    Comparación inflexiones;
+    for (int i = 0; i < 200; ++i) {
+        Banco banco;
+        std::string f = generador.Expresión(2 + generador.Hasta(3));
+        if (i % 3 == 0)
+            f += "/X^" + std::to_string(2 + i % 4);
+        SCOPED_TRACE("seed " + std::to_string(Semilla));
+        const Programa programa = CompilaExpresión(f);
+        std::vector<double> lugares = LugaresDe(banco, f, Máximos);
+        const Derivadas primera = Recorre(programa, PrimeraEn);
+        ComparaMáximos(f, primera, lugares);
+        std::ranges::copy(LugaresDe(banco, f, Mínimos), std::back_inserter(lugares));
+        ComparaConRecorrido(f, primera, lugares, extremos);
+        ComparaConRecorrido(f, Recorre(programa, SegundaEn), LugaresDe(banco, f, Inflexión),
+                            inflexiones);
+    }
+    EXPECT_GT(extremos.hallados, 200U);
+    EXPECT_GT(inflexiones.hallados, 200U);
+    EXPECT_GT(extremos.ausentes + inflexiones.ausentes, 400U);
+}
+
 TEST(AnálisisSinFin, NingúnIntervaloHaceUnaBúsquedaInterminable) {
     constexpr int MáximoPreguntas = 2'000'000;
     const std::string grande = "1" + std::string(308, '0');
