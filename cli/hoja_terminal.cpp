@@ -118,6 +118,30 @@ std::string DevJson(const Orden& orden, const Hoja& hoja, std::string_view añad
     return json += (hoja.líneaSeleccionada ? TextoJson(*hoja.líneaSeleccionada) : "null") + "}\n";
 }
 
+// The worksheet of the call. None: it cannot be read or is none, and this has been said.
+std::optional<Hoja> CargaHoja(const std::optional<std::string>& fichero) {
+    std::optional<std::string> texto = LeeHoja(fichero);
+    if (!texto) {
+        RechazaUso("no se puede leer la hoja " + fichero.value_or("-"));
+        return std::nullopt;
+    }
+    if (const std::string_view defecto = DevDefecto(*texto); !defecto.empty()) {
+        RechazaUso(std::string(defecto));
+        return std::nullopt;
+    }
+    constexpr std::string_view MarcaDeOrden = "\xEF\xBB\xBF"; // byte order mark
+    if (texto->starts_with(MarcaDeOrden))
+        texto->erase(0, MarcaDeOrden.size());
+    return Hoja(ConCrLf(*texto));
+}
+
+std::string EnLíneas(const std::vector<std::string_view>& líneas) {
+    std::string texto;
+    for (const std::string_view línea : líneas)
+        (texto += línea) += '\n';
+    return texto;
+}
+
 } // namespace
 
 Estado EjecutaOrden(Contexto& contexto, MensajesDeTerminal& mensajes, const Opciones& opciones,
@@ -125,34 +149,26 @@ Estado EjecutaOrden(Contexto& contexto, MensajesDeTerminal& mensajes, const Opci
     const Orden* orden = BuscaOrden(opciones.argumento);
     if (orden == nullptr)
         return MalUso;
-    std::optional<std::string> texto = LeeHoja(opciones.hoja);
-    if (!texto)
-        return RechazaUso("no se puede leer la hoja " + opciones.hoja.value_or("-"));
-    if (const std::string_view defecto = DevDefecto(*texto); !defecto.empty())
-        return RechazaUso(std::string(defecto));
-    constexpr std::string_view MarcaDeOrden = "\xEF\xBB\xBF"; // byte order mark
-    if (texto->starts_with(MarcaDeOrden))
-        texto->erase(0, MarcaDeOrden.size());
-    Hoja hoja(ConCrLf(*texto));
-    texto.reset();
-    const std::size_t longitud = hoja.texto.size();
+    std::optional<Hoja> hoja = CargaHoja(opciones.hoja);
+    if (!hoja)
+        return MalUso;
+    const std::size_t longitud = hoja->texto.size();
     if (opciones.json)
         mensajes.Guarda();
     CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
-    EjecutaInstrucciones(contexto, hoja, orden->texto);
-    const std::string_view añadido = std::string_view(hoja.texto).substr(longitud);
+    EjecutaInstrucciones(contexto, *hoja, orden->texto);
+    const std::string_view añadido = std::string_view(hoja->texto).substr(longitud);
     if (opciones.json) {
-        salida = DevJson(*orden, hoja, añadido, mensajes.Guardados());
+        salida = DevJson(*orden, *hoja, añadido, mensajes.Guardados());
         return SinMensajes;
     }
-    if (hoja.líneaSeleccionada)
-        std::cerr << "línea: " << *hoja.líneaSeleccionada << '\n';
+    if (hoja->líneaSeleccionada)
+        std::cerr << "línea: " << *hoja->líneaSeleccionada << '\n';
     if (opciones.soloResultado) {
-        for (const std::string_view línea : DevResultado(añadido))
-            (salida += línea) += '\n';
+        salida = EnLíneas(DevResultado(añadido));
     } else {
-        PonLf(hoja.texto);
-        salida = std::move(hoja.texto);
+        PonLf(hoja->texto);
+        salida = std::move(hoja->texto);
     }
     return SinMensajes;
 }
