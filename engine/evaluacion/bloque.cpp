@@ -46,29 +46,6 @@ QUIRALTO_EN_LÍNEA void AplicaBinaria(std::size_t n, const Filas& filas, const P
     }
 }
 
-QUIRALTO_EN_LÍNEA void AplicaPotencia(std::size_t n, const Filas& filas, const Paso& paso) {
-    double* const destino = filas[paso.destino];
-    const double* const base = filas[paso.izquierdo.fila];
-    switch (paso.derecho.esFila ? 0 : ExponenteProducto(paso.derecho.valor)) {
-    case 2:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<2>(a); });
-    case 3:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<3>(a); });
-    case 4:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<4>(a); });
-    case 5:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<5>(a); });
-    case 6:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<6>(a); });
-    case 7:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<7>(a); });
-    case 8:
-        return Aplica(n, destino, base, [](double a) { return PotenciaEntera<8>(a); });
-    default:
-        return AplicaBinaria(n, filas, paso, [](double a, double b) { return DevPotencia(a, b); });
-    }
-}
-
 // The compiler makes one call of the two, which gives the bits of both.
 QUIRALTO_EN_LÍNEA void AplicaSenoYCoseno(std::size_t n, double* __restrict seno,
                                          double* __restrict coseno, const double* __restrict a) {
@@ -85,8 +62,6 @@ QUIRALTO_EN_LÍNEA void EjecutaOperación(std::size_t n, const Filas& filas, con
     [[maybe_unused]] const double* const argumento = filas[paso.derecho.fila];
     if constexpr (Operador.familia == Familia::Símbolo)
         return;
-    else if constexpr (Operador.familia == Familia::Potencia)
-        AplicaPotencia(n, filas, paso);
     else if constexpr (Operador.EsBinaria())
         AplicaBinaria(n, filas, paso, [](double a, double b) {
             return TablaOperaciones[Índice].valor(a, b, nullptr);

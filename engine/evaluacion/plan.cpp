@@ -73,6 +73,8 @@ private:
             código = Operación::Producto;
             derecho.valor = 1 / derecho.valor;
         }
+        if (const int exponente = ExponenteConstante(código, derecho))
+            return DevPotenciaEntera(izquierdo, exponente).fila - 1;
         if (const std::size_t igual = BuscaIgual(código, izquierdo, derecho);
             igual != nodos_.size())
             return igual;
@@ -84,6 +86,22 @@ private:
                                    .derecho = derecho,
                                    .destino = nodos_.size() + 1}});
         return nodos_.size() - 1;
+    }
+
+    static int ExponenteConstante(Operación código, const Operando& derecho) {
+        return código == Operación::Potencia && !derecho.esFila ? ExponenteProducto(derecho.valor)
+                                                                : 0;
+    }
+
+    // A small whole power as the products that PotenciaEntera makes, which powers of one base
+    // share.
+    Operando DevPotenciaEntera(const Operando& base, int exponente) {
+        if (exponente == 1)
+            return base;
+        const bool par = exponente % 2 == 0;
+        const Operando menor = DevPotenciaEntera(base, par ? exponente / 2 : exponente - 1);
+        const std::size_t nodo = DevNodo(Operación::Producto, menor, par ? menor : base);
+        return {.esFila = true, .fila = nodo + 1, .valor = 0};
     }
 
     // The same instruction on the same operands among the last nodes, or their count. Looking no
