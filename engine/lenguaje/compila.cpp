@@ -103,8 +103,7 @@ void Compilador::LeeOperador(Operación código) {
     } else if (!EsOperando(piezas_.back())) {
         // Only "*-", "/-" and "^-" stand together; every other run has been folded.
         const Pieza& anterior = piezas_.back();
-        if (!esMenos || anterior.clase != Pieza::Clase::Operador ||
-            !EsFuerte(anterior.código))
+        if (!esMenos || anterior.clase != Pieza::Clase::Operador || !EsFuerte(anterior.código))
             throw ErrorEjecución(ArgumentoInválido);
         pieza = {.clase = Pieza::Clase::SignoTras, .código = anterior.código};
     }
