@@ -91,6 +91,7 @@ std::string TextoFactores(const Contexto& contexto, const std::vector<Raíz>& ra
 Polinomio QuitaRaíces(Contexto& contexto, const Polinomio& p, const std::vector<Raíz>& raíces) {
     if (raíces.front().exacta) {
         std::vector<RaízExacta> exactas;
+        exactas.reserve(raíces.size());
         for (const Raíz& raíz : raíces)
             exactas.push_back(*raíz.exacta);
         return DivideEntreRaíces(contexto, *SiExacto(p), exactas);
