@@ -1,67 +1,16 @@
 #include "engine/desarrollo/desarrollo.h"
 
-#include "engine/desarrollo/algebra_suma.h"
-#include "engine/desarrollo/escribe_suma.h"
+#include "engine/desarrollo/acumulada.h"
 #include "engine/desarrollo/reglas_completo.h"
+#include "engine/desarrollo/reglas_simplificado.h"
 #include "engine/desarrollo/semejantes.h"
-#include "engine/desarrollo/separa.h"
-#include "engine/desarrollo/sumando.h"
 #include "engine/lenguaje/sintaxis.h"
-#include "engine/numeros/numero.h"
+#include "engine/lenguaje/termino_texto.h"
 
-#include <cmath>
 #include <optional>
 
 namespace quiralto {
 namespace {
-
-// The rules of the simplified expansion: every value is one sum.
-class ReglasSimplificado {
-public:
-    using Valor = Sumando;
-
-    explicit ReglasSimplificado(TablaSímbolos& tabla) : tabla_(tabla) {}
-
-    Valor DeX() { return SumaSímbolo(tabla_.DevVariable('X', "X")); }
-    static Valor DeNúmero(double valor) { return SumaNúmero(valor); }
-
-    Valor Opera(const DescripciónOperación& operación, Valor a, Valor b) {
-        switch (operación.familia) {
-        case Familia::Suma:
-        case Familia::Resta:
-            a.Añade(tabla_, std::move(b), operación.familia == Familia::Suma ? 1 : -1);
-            return a;
-        case Familia::Producto: {
-            Valor producto = MultiplicaYFunde(tabla_, a.Cerrada(), b.Cerrada());
-            producto.factores = DevFactores(a, b);
-            return producto;
-        }
-        case Familia::Cociente: {
-            const std::vector<Términos> divisores = DevFactores(a, b);
-            Términos cociente = DevCociente(tabla_, a.Cerrada(), b.Cerrada(), divisores);
-            FundeSemejantes(tabla_, cociente);
-            return cociente;
-        }
-        case Familia::Potencia: {
-            Valor potencia = ElevaYFunde(tabla_, a.Cerrada(), b.Cerrada());
-            potencia.factores = DevFactores(a, a);
-            return potencia;
-        }
-        case Familia::Función:
-        case Familia::Símbolo:
-            break;
-        }
-        return SumaSímbolo(
-            DevLlamada(tabla_, operación, EscribeSuma(tabla_, RedondeaSuma(tabla_, b.Cerrada()))));
-    }
-
-    std::string Escribe(Valor valor) {
-        return EscribeSuma(tabla_, RedondeaSuma(tabla_, valor.Cerrada()));
-    }
-
-private:
-    TablaSímbolos& tabla_;
-};
 
 // Runs the instructions over the values of the rules. Every register but X is an operand of at
 // most one instruction, so values are moved out of it.
@@ -74,7 +23,7 @@ typename Reglas::Valor Ejecuta(Reglas& reglas, Contexto& contexto, const Program
         if (r == 0)
             return reglas.DeX();
         if (!registros[r])
-            return Reglas::DeNúmero(programa.registros[r]);
+            return reglas.DeNúmero(programa.registros[r]);
         Valor valor = std::move(*registros[r]);
         registros[r].reset();
         return valor;
@@ -89,20 +38,21 @@ typename Reglas::Valor Ejecuta(Reglas& reglas, Contexto& contexto, const Program
     return std::move(*registros[programa.Resultado()]);
 }
 
-// A text's terms, each literal part a symbol of its own.
+// A literal part as a text, a symbol of its own.
+Literal DevOpaca(TablaSímbolos& tabla, std::string texto) {
+    if (texto.empty())
+        return {};
+    return {{tabla.DevBase({.clase = ClaseBase::Opaca, .texto = std::move(texto)}), 1}};
+}
+
 Términos LeeSuma(TablaSímbolos& tabla, std::string_view texto) {
     Términos suma;
-    for (const std::string& término : SeparaTérminos(texto)) {
-        const TérminoSeparado separado = SeparaCoeficiente(término);
-        const double coeficiente = Val(separado.coeficiente);
-        if (coeficiente == 0)
-            continue;
-        Literal literal;
-        if (!separado.literal.empty())
-            literal.push_back(
-                {tabla.DevBase({.clase = ClaseBase::Opaca, .texto = separado.literal}), 1});
-        suma.push_back({coeficiente, std::move(literal)});
-    }
+    RecorreTérminos(texto, [&](std::string_view término) {
+        TérminoLeído leído = LeeTérmino(término);
+        if (leído.coeficiente != 0)
+            suma.push_back({Coeficiente::DesdeDouble(leído.coeficiente),
+                            DevOpaca(tabla, std::move(leído.literal))});
+    });
     return suma;
 }
 
@@ -122,41 +72,25 @@ std::string DesarrollaSimplificado(Contexto& contexto, const Programa& programa)
 
 Términos DesarrollaEnTérminos(TablaSímbolos& tabla, const Programa& programa) {
     ReglasSimplificado reglas(tabla);
-    return Ejecuta(reglas, tabla.contexto, programa).Cerrada();
+    auto valor = Ejecuta(reglas, tabla.contexto, programa);
+    return reglas.ComoSuma(valor);
 }
 
 std::string SumaDesarrollo(Contexto& contexto, std::string_view a, std::string_view b) {
     TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
-    Sumando suma = LeeSuma(tabla, a);
+    Acumulada suma = LeeSuma(tabla, a);
     suma.Añade(tabla, LeeSuma(tabla, b), 1);
     std::string texto;
-    for (const Término& término : suma.Cerrada()) {
-        if (término.coeficiente > 0 && !texto.empty())
-            texto += '+';
-        if (término.literal.empty()) {
-            texto += TextoNúmero(término.coeficiente);
-            continue;
-        }
-        const std::string& literal = tabla.BaseDe(término.literal[0].símbolo).texto;
-        if (término.coeficiente < 0)
-            texto += '-';
-        const double absoluto = std::fabs(término.coeficiente);
-        if (absoluto == 1)
-            texto += literal;
-        else if (literal.starts_with("1/"))
-            (texto += TextoNúmero(absoluto)).append(literal, 1);
-        else
-            ((texto += TextoNúmero(absoluto)) += '*') += literal;
-    }
+    for (const Término& término : suma.Cerrada())
+        EscribeTérmino(texto, término.coeficiente.Escrito(contexto.DígitosRedondeo).ADouble(),
+                       término.literal.empty() ? std::string_view()
+                                               : tabla.BaseDe(término.literal[0].símbolo).texto);
     return texto.empty() ? "0" : SimplificaSignos(texto);
 }
 
 bool MismaExpresión(Contexto& contexto, const std::string& p, const std::string& q) {
-    if (p == q)
-        return true;
-    const auto puntos = SorteaPuntos(contexto);
-    const ValoresDePrueba deP = EvalúaTexto(contexto, p, puntos);
-    return !deP.SinNinguno() && deP == EvalúaTexto(contexto, q, puntos);
+    TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
+    return SonSemejantes(tabla, DevOpaca(tabla, p), DevOpaca(tabla, q));
 }
 
 } // namespace quiralto

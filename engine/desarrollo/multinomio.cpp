@@ -1,7 +1,8 @@
 #include "engine/desarrollo/multinomio.h"
 
 #include "engine/base/fallos.h"
-#include "engine/desarrollo/semejantes.h"
+#include "engine/desarrollo/producto.h"
+#include "engine/desarrollo/recolector.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,8 +28,8 @@ double DevCota(const Términos& base, double n) {
     for (const Término& término : base)
         for (const Factor& factor : término.literal) {
             auto& [mínimo, máximo] = extremos[factor.símbolo]; // 0 where a term lacks it
-            mínimo = std::min(mínimo, factor.exponente);
-            máximo = std::max(máximo, factor.exponente);
+            mínimo = std::min(mínimo, factor.exponente.ADouble());
+            máximo = std::max(máximo, factor.exponente.ADouble());
         }
     double cota = 1;
     for (const auto& [símbolo, suyos] : extremos)
@@ -36,8 +37,6 @@ double DevCota(const Términos& base, double n) {
     return cota;
 }
 
-// Long double: binomials past 2^53 stay exact longer, and past 1E308 may be made up for by small
-// coefficients.
 class Repartidor {
 public:
     Repartidor(const TablaSímbolos& tabla, const Términos& base, std::size_t n)
@@ -58,7 +57,7 @@ public:
         Acumula(0);
         for (;;) {
             const Previo& entero = previos_.back();
-            potencia.Añade(static_cast<double>(entero.coeficiente), entero.literal);
+            potencia.Añade(entero.coeficiente, entero.literal);
             std::size_t i = último;
             while (i > 0 && partes_[i - 1] == 0)
                 --i;
@@ -75,7 +74,7 @@ public:
 private:
     // The product of the powers of the first terms, and what is left to share out.
     struct Previo {
-        long double coeficiente;
+        Coeficiente coeficiente;
         Literal literal;
         std::size_t resto;
     };
@@ -103,23 +102,20 @@ private:
             Literal literal;
             MultiplicaLiterales(tabla_, literales_[i].back(), base_[i].literal, literal);
             literales_[i].push_back(std::move(literal));
-            coeficientes_[i].push_back(coeficientes_[i].back() *
-                                       static_cast<long double>(base_[i].coeficiente));
+            coeficientes_[i].push_back(coeficientes_[i].back() * base_[i].coeficiente);
         }
     }
 
-    long double Binomio(std::size_t de, std::size_t parte) {
+    const Coeficiente& Binomio(std::size_t de, std::size_t parte) {
         parte = std::min(parte, de - parte);
-        if (parte == 0)
-            return 1;
         if (binomios_.size() <= de)
             binomios_.resize(de + 1);
-        std::vector<long double>& fila = binomios_[de];
+        std::vector<Coeficiente>& fila = binomios_[de];
         if (fila.empty())
             fila.push_back(1);
         while (fila.size() <= parte) {
-            const auto i = static_cast<long double>(fila.size());
-            fila.push_back(fila.back() * (static_cast<long double>(de) - i + 1) / i);
+            const auto i = static_cast<std::int64_t>(fila.size());
+            fila.push_back(fila.back() * (static_cast<std::int64_t>(de) - i + 1) / i);
         }
         return fila[parte];
     }
@@ -130,23 +126,21 @@ private:
     std::vector<std::size_t> partes_;
     std::vector<Previo> previos_;
     std::vector<std::vector<Literal>> literales_;        // powers of each term
-    std::vector<std::vector<long double>> coeficientes_; // likewise
-    std::vector<std::vector<long double>> binomios_;     // rows, as far as they were needed
+    std::vector<std::vector<Coeficiente>> coeficientes_; // likewise
+    std::vector<std::vector<Coeficiente>> binomios_;     // rows, as far as they were needed
 };
 
 } // namespace
 
 std::optional<Términos> ElevaPorMultinomio(const TablaSímbolos& tabla, const Términos& base,
-                                           double n) {
-    const bool conCocientes =
-        tabla.HayCocientes() && std::ranges::any_of(base, [&](const Término& t) {
-            return DevCocienteDe(tabla, t.literal) != nullptr;
-        });
-    const double repartos = DevRepartos(n, std::min(base.size(), MáximosSumandos));
-    if (conCocientes || base.size() > MáximosSumandos || repartos > DevCota(base, n))
+                                           std::int64_t n) {
+    const double repartos =
+        DevRepartos(static_cast<double>(n), std::min(base.size(), MáximosSumandos));
+    if (HayCocientes(tabla, base) || tabla.HayRaíces() || base.size() > MáximosSumandos ||
+        repartos > DevCota(base, static_cast<double>(n)))
         return std::nullopt;
     // A binomial runs through all of them, a longer sum ends at the bound on terms.
-    constexpr double MáximoExponente = 1 << 20;
+    constexpr std::int64_t MáximoExponente = 1 << 20;
     if (n > MáximoExponente)
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
     return Repartidor(tabla, base, static_cast<std::size_t>(n)).Eleva();

@@ -11,6 +11,6 @@ namespace quiralto {
 // every way to share n out among the terms. None where many of these would be like terms, so that
 // squaring is cheaper, and for a base of many terms or of quotients.
 std::optional<Términos> ElevaPorMultinomio(const TablaSímbolos& tabla, const Términos& base,
-                                           double n);
+                                           std::int64_t n);
 
 } // namespace quiralto

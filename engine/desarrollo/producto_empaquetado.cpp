@@ -1,7 +1,9 @@
 #include "engine/desarrollo/producto_empaquetado.h"
 
 #include "engine/base/fallos.h"
-#include "engine/desarrollo/semejantes.h"
+#include "engine/desarrollo/recolector.h"
+#include "engine/numeros/ancho128.h"
+#include "engine/numeros/producto_denso.h"
 
 #include <algorithm>
 #include <bit>
@@ -16,8 +18,8 @@ using Clave = std::uint64_t;
 // The exponents of one symbol: a field of the word, wide enough for those of the product.
 struct Campo {
     IdSímbolo símbolo;
-    double máximo = 0; // of the sums so far, then of the product
-    double suyo = 0;   // of the sum at hand
+    std::int64_t máximo = 0; // of the sums so far, then of the product
+    std::int64_t suyo = 0;   // of the sum at hand
     int desplazamiento = 0;
     int ancho = 0;
 };
@@ -26,14 +28,16 @@ struct Campo {
 std::optional<std::vector<Campo>> DevCampos(const TablaSímbolos& tabla, const Términos& a,
                                             const Términos& b) {
     constexpr std::size_t MáximosCampos = 16;
-    constexpr double MáximoExponente = 1 << 30;
+    constexpr std::int64_t MáximoExponente = 1 << 30;
     std::vector<Campo> campos;
     for (const Términos* const suma : {&a, &b}) {
         for (const Término& término : *suma) {
-            if (tabla.HayCocientes() && DevCocienteDe(tabla, término.literal) != nullptr)
-                return std::nullopt;
             for (const auto& [símbolo, exponente] : término.literal) {
-                if (exponente < 0 || exponente > MáximoExponente || !EsEntero(exponente))
+                if (!exponente.EsEntero() || exponente.Signo() < 0 ||
+                    exponente.Numerador() > MáximoExponente)
+                    return std::nullopt;
+                const Base& base = tabla.BaseDe(símbolo);
+                if (base.clase == ClaseBase::Cociente || EsRaíz(base)) // not powers like others
                     return std::nullopt;
                 auto campo = std::ranges::find(campos, símbolo, &Campo::símbolo);
                 if (campo == campos.end()) {
@@ -41,7 +45,7 @@ std::optional<std::vector<Campo>> DevCampos(const TablaSímbolos& tabla, const T
                         return std::nullopt;
                     campo = campos.insert(campo, {.símbolo = símbolo});
                 }
-                campo->suyo = std::max(campo->suyo, exponente);
+                campo->suyo = std::max(campo->suyo, exponente.Numerador());
             }
         }
         for (Campo& campo : campos)
@@ -71,7 +75,7 @@ std::vector<Clave> Empaqueta(const std::vector<Campo>& campos, const Términos& 
         for (const auto& [símbolo, exponente] : término.literal) {
             while (campo->símbolo != símbolo) // both in the same order
                 ++campo;
-            clave += static_cast<Clave>(exponente) << campo->desplazamiento;
+            clave += static_cast<Clave>(exponente.Numerador()) << campo->desplazamiento;
         }
         claves.push_back(clave);
     }
@@ -84,7 +88,7 @@ Literal Desempaqueta(const std::vector<Campo>& campos, Clave clave) {
         const Clave exponente =
             clave >> campo.desplazamiento & ((Clave{1} << campo.ancho) - 1); // narrower than 32
         if (exponente != 0)
-            literal.push_back({campo.símbolo, static_cast<double>(exponente)});
+            literal.push_back({campo.símbolo, static_cast<std::int64_t>(exponente)});
     }
     return literal;
 }
@@ -160,37 +164,159 @@ void CompruebaProductoLargo(Contexto& contexto, const std::vector<Clave>& a,
 
 } // namespace
 
-std::optional<Términos> MultiplicaEmpaquetados(const TablaSímbolos& tabla, const Términos& a,
-                                               const Términos& b) {
-    const auto campos = DevCampos(tabla, a, b);
-    if (!campos)
-        return std::nullopt;
-    const std::vector<Clave> deA = Empaqueta(*campos, a);
-    const std::vector<Clave> deB = Empaqueta(*campos, b);
-    CompruebaProductoLargo(tabla.contexto, deA, deB);
-    Numerador numerador(a.size() * b.size());
-    std::vector<double> coeficientes;
+namespace {
+
+using EnteroDoble = Entero128;
+
+Coeficiente ACoeficiente(EnteroDoble valor) {
+    constexpr int Bits = 62;
+    const auto alto = static_cast<std::int64_t>(valor >> Bits);
+    const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));
+    return alto == 0 ? Coeficiente(bajo) : Coeficiente(Entero(alto).Desplazado(Bits) + bajo, 1);
+}
+const Coeficiente& ACoeficiente(const Coeficiente& valor) {
+    return valor;
+}
+
+// Small whole numbers, whose products add up to less than 127 bits; none where there are others.
+std::optional<std::vector<EnteroDoble>> DevEnteros(const Términos& suma, int máximosBits) {
+    std::vector<EnteroDoble> enteros;
+    enteros.reserve(suma.size());
+    for (const Término& término : suma) {
+        if (!término.coeficiente.EsEnteroPequeño())
+            return std::nullopt;
+        const std::int64_t entero = término.coeficiente.EnteroPequeño();
+        if (entero >> máximosBits != 0 && entero >> máximosBits != -1)
+            return std::nullopt;
+        enteros.push_back(entero);
+    }
+    return enteros;
+}
+
+std::vector<Coeficiente> DevCoeficientes(const Términos& suma) {
+    std::vector<Coeficiente> coeficientes;
+    coeficientes.reserve(suma.size());
+    for (const Término& término : suma)
+        coeficientes.push_back(término.coeficiente);
+    return coeficientes;
+}
+
+// The product of the sums whose keys and coefficients these are.
+template <typename Número>
+Términos Multiplica(Contexto& contexto, const std::vector<Campo>& campos,
+                    const std::vector<Clave>& clavesA, const std::vector<Clave>& clavesB,
+                    const std::vector<Número>& deA, const std::vector<Número>& deB) {
+    Numerador numerador(clavesA.size() * clavesB.size());
+    std::vector<Número> suma;
     std::size_t sinVigilar = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if ((sinVigilar += b.size()) >= EntreVigilias) {
-            tabla.contexto.Vigila();
+    for (std::size_t i = 0; i < clavesA.size(); ++i) {
+        if ((sinVigilar += clavesB.size()) >= EntreVigilias) {
+            contexto.Vigila();
             sinVigilar = 0;
         }
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            const double coeficiente = a[i].coeficiente * b[j].coeficiente;
-            const std::uint32_t número = numerador.Numera(deA[i] + deB[j]);
-            if (número == coeficientes.size())
-                coeficientes.push_back(coeficiente);
+        for (std::size_t j = 0; j < clavesB.size(); ++j) {
+            const std::uint32_t número = numerador.Numera(clavesA[i] + clavesB[j]);
+            if (número == suma.size())
+                suma.push_back(deA[i] * deB[j]);
             else
-                coeficientes[número] += coeficiente;
+                suma[número] += deA[i] * deB[j];
         }
     }
     Términos producto;
-    producto.reserve(coeficientes.size());
-    for (std::size_t i = 0; i < coeficientes.size(); ++i)
-        if (CompruebaFinito(coeficientes[i]) != 0)
-            producto.push_back({coeficientes[i], Desempaqueta(*campos, numerador.Claves()[i])});
+    producto.reserve(suma.size());
+    for (std::size_t i = 0; i < suma.size(); ++i) {
+        Coeficiente coeficiente = ACoeficiente(suma[i]);
+        if (!coeficiente.EsCero())
+            producto.push_back(
+                {std::move(coeficiente), Desempaqueta(campos, numerador.Claves()[i])});
+    }
     return producto;
+}
+
+// A polynomial of one symbol without gaps: exponents that fall by one step from term to term, and
+// small whole coefficients.
+struct Escalera {
+    IdSímbolo símbolo = 0;
+    std::int64_t máximo = 0;
+    std::int64_t paso = 0;
+    std::vector<std::int64_t> coeficientes;
+};
+
+std::optional<Escalera> DevEscalera(const TablaSímbolos& tabla, const Términos& suma) {
+    Escalera escalera;
+    escalera.coeficientes.reserve(suma.size());
+    std::int64_t previo = 0;
+    for (const auto& [coeficiente, literal] : suma) {
+        const bool número = literal.empty();
+        const std::int64_t exponente = número ? 0 : literal[0].exponente.Numerador();
+        const std::size_t i = escalera.coeficientes.size();
+        if (literal.size() > 1 || !coeficiente.EsEnteroPequeño() || exponente < 0 ||
+            (!número && !literal[0].exponente.EsEntero()))
+            return std::nullopt;
+        if (i == 0) {
+            const Base* const base = número ? nullptr : &tabla.BaseDe(literal[0].símbolo);
+            if (número || base->clase == ClaseBase::Cociente || EsRaíz(*base))
+                return std::nullopt;
+            escalera.símbolo = literal[0].símbolo;
+            escalera.máximo = exponente;
+        } else if ((!número && literal[0].símbolo != escalera.símbolo) || exponente >= previo ||
+                   (i > 1 && previo - exponente != escalera.paso)) {
+            return std::nullopt;
+        } else if (i == 1) {
+            escalera.paso = previo - exponente;
+        }
+        previo = exponente;
+        escalera.coeficientes.push_back(coeficiente.EnteroPequeño());
+    }
+    return escalera;
+}
+
+std::optional<Términos> MultiplicaEscaleras(const TablaSímbolos& tabla, const Términos& a,
+                                            const Términos& b) {
+    constexpr std::size_t MínimosTérminos = 4;
+    if (std::min(a.size(), b.size()) < MínimosTérminos)
+        return std::nullopt;
+    const auto deA = DevEscalera(tabla, a);
+    const auto deB = deA ? DevEscalera(tabla, b) : std::nullopt;
+    if (!deB || deA->símbolo != deB->símbolo || deA->paso != deB->paso)
+        return std::nullopt;
+    const auto coeficientes = MultiplicaDensos(deA->coeficientes, deB->coeficientes);
+    if (!coeficientes)
+        return std::nullopt;
+    if (coeficientes->size() > MáximoTérminos)
+        throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+    Términos producto;
+    producto.reserve(coeficientes->size());
+    std::int64_t exponente = deA->máximo + deB->máximo;
+    for (const Entero& coeficiente : *coeficientes) {
+        if (!coeficiente.EsCero())
+            producto.push_back({coeficiente.EsPequeño() ? Coeficiente(coeficiente.Pequeño())
+                                                        : Coeficiente(coeficiente, 1),
+                                exponente == 0 ? Literal{} : Literal{{deA->símbolo, exponente}}});
+        exponente -= deA->paso;
+    }
+    return producto;
+}
+
+} // namespace
+
+std::optional<Términos> MultiplicaEmpaquetados(const TablaSímbolos& tabla, const Términos& a,
+                                               const Términos& b) {
+    if (auto producto = MultiplicaEscaleras(tabla, a, b))
+        return producto;
+    const auto campos = DevCampos(tabla, a, b);
+    if (!campos)
+        return std::nullopt;
+    const std::vector<Clave> clavesA = Empaqueta(*campos, a);
+    const std::vector<Clave> clavesB = Empaqueta(*campos, b);
+    CompruebaProductoLargo(tabla.contexto, clavesA, clavesB);
+    constexpr int BitsFactor = 53; // twice them, and 2^19 terms, stay below 127
+    const auto enterosA = DevEnteros(a, BitsFactor);
+    const auto enterosB = enterosA ? DevEnteros(b, BitsFactor) : std::nullopt;
+    if (enterosB)
+        return Multiplica(tabla.contexto, *campos, clavesA, clavesB, *enterosA, *enterosB);
+    return Multiplica(tabla.contexto, *campos, clavesA, clavesB, DevCoeficientes(a),
+                      DevCoeficientes(b));
 }
 
 } // namespace quiralto

@@ -1,6 +1,7 @@
 #include "engine/desarrollo/separa.h"
 
 #include "engine/base/caracteres.h"
+#include "engine/lenguaje/termino_texto.h"
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
@@ -37,13 +38,9 @@ std::vector<std::string> Corta(std::string_view texto, const std::vector<std::si
 } // namespace
 
 std::vector<std::string> SeparaTérminos(std::string_view texto) {
-    std::vector<std::size_t> cortes;
-    RecorreFuera(texto, [&](std::size_t i) {
-        if (i > 0 && EsSigno(texto[i]) && !EsOperadorFuerte(texto[i - 1]) && texto[i - 1] != 'D' &&
-            texto[i - 1] != 'E')
-            cortes.push_back(i);
-    });
-    return texto.empty() ? std::vector<std::string>{} : Corta(texto, cortes, 0);
+    std::vector<std::string> términos;
+    RecorreTérminos(texto, [&](std::string_view término) { términos.emplace_back(término); });
+    return términos;
 }
 
 std::vector<std::string> SeparaFactores(std::string_view término) {
@@ -64,21 +61,8 @@ std::vector<std::string> SeparaFactores(std::string_view término) {
 }
 
 TérminoSeparado SeparaCoeficiente(std::string_view término) {
-    const bool conSigno = !término.empty() && EsSigno(término.front());
-    const std::string_view sinSigno = término.substr(conSigno ? 1 : 0);
-    const std::string signo = término.starts_with('-') ? "-" : "";
-    const NúmeroLeído número =
-        EsSigno(sinSigno.empty() ? '\0' : sinSigno.front()) ? NúmeroLeído{} : LeeNúmero(sinSigno);
-    if (número.longitud == 0)
-        return {signo + "1", std::string(sinSigno)};
-    const std::string_view resto = sinSigno.substr(número.longitud);
-    if (resto.starts_with('^'))
-        return {signo + "1", std::string(sinSigno)};
-    const std::string coeficiente = TextoNúmero(Val(sinSigno));
-    if (resto.starts_with('/'))
-        return {signo + coeficiente, "1" + std::string(resto)};
-    return {signo + coeficiente,
-            std::string(sinSigno.substr(std::min(sinSigno.size(), coeficiente.size() + 1)))};
+    TérminoLeído leído = LeeTérmino(término);
+    return {TextoNúmero(leído.coeficiente), std::move(leído.literal)};
 }
 
 FactorSeparado SeparaPotencia(std::string_view factor) {

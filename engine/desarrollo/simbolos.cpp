@@ -1,7 +1,6 @@
 #include "engine/desarrollo/simbolos.h"
 
-#include <bit>
-#include <cmath>
+#include <algorithm>
 
 namespace quiralto {
 namespace {
@@ -11,12 +10,17 @@ constexpr std::size_t MáximoTextos = 4 * MáximoTexto;
 
 constexpr int MáximaProfundidad = 64;
 
+// Of exponents in exponents: their values are computed by recursion.
+constexpr int MáximaHonduraExponentes = 500;
+
 constexpr std::uint64_t BitNoVariable = std::uint64_t{1} << 63;
+
+constexpr std::string_view TextoEuler = "EXP(";
 
 // Variables come first, by their place; the rest by the first bytes of their texts.
 std::uint64_t DevClave(const Base& base) {
     if (base.clase == ClaseBase::Variable)
-        return static_cast<std::uint64_t>(base.número);
+        return static_cast<std::uint64_t>(base.lugar);
     std::uint64_t principio = 0;
     for (std::size_t i = 0; i < sizeof principio; ++i)
         principio = principio << 8 |
@@ -33,7 +37,11 @@ TablaSímbolos::TablaSímbolos(Contexto& contextoDeLaOrden, ClaseDesarrollo clas
 }
 
 IdSímbolo TablaSímbolos::DevVariable(double lugar, std::string texto) {
-    return DevBase({.clase = ClaseBase::Variable, .texto = std::move(texto), .número = lugar});
+    return DevBase({.clase = ClaseBase::Variable, .texto = std::move(texto), .lugar = lugar});
+}
+
+IdBase TablaSímbolos::DevEuler() {
+    return IdDe(DevBase({.clase = ClaseBase::Euler, .texto = std::string(TextoEuler)}));
 }
 
 IdSímbolo TablaSímbolos::DevBase(Base base) {
@@ -44,11 +52,12 @@ IdSímbolo TablaSímbolos::DevBase(Base base) {
     base.clave = DevClave(base);
     base.símbolo = static_cast<IdSímbolo>(símbolos_.size());
     hayReducibles_ |= base.clase == ClaseBase::Grupo || base.clase == ClaseBase::Número;
+    hayRaíces_ |= EsRaíz(base);
     hayCocientes_ |= base.clase == ClaseBase::Cociente;
-    porTexto_.emplace(base.texto, base.símbolo);
     símbolos_.push_back({static_cast<IdBase>(bases_.size()), 0});
     claves_.push_back(base.clave);
     bases_.push_back(std::move(base));
+    porTexto_.emplace(bases_.back().texto, bases_.back().símbolo);
     return bases_.back().símbolo;
 }
 
@@ -56,11 +65,19 @@ IdSímbolo TablaSímbolos::ConExponente(IdBase base, const Literal& literal,
                                       const std::string& texto) {
     if (literal.empty())
         return bases_[base].símbolo;
-    const auto [exponente, nuevo] =
-        exponentePorTexto_.emplace(texto, static_cast<std::uint32_t>(exponentes_.size()));
-    if (nuevo) {
+    auto exponente = exponentePorTexto_.find(texto);
+    if (exponente == exponentePorTexto_.end()) {
         CuentaTexto(texto.size());
-        exponentes_.push_back({texto, literal});
+        int hondura = 1;
+        for (const Factor& factor : literal)
+            hondura = std::max(hondura, exponentes_[IdExponente(factor.símbolo)].hondura + 1);
+        if (hondura > MáximaHonduraExponentes)
+            throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+        exponentes_.push_back({texto, literal, hondura});
+        exponente = exponentePorTexto_
+                        .emplace(exponentes_.back().texto,
+                                 static_cast<std::uint32_t>(exponentes_.size() - 1))
+                        .first;
     }
     const std::uint64_t pareja = std::uint64_t{base} << 32 | exponente->second;
     const auto [símbolo, nueva] =
@@ -84,91 +101,21 @@ bool TablaSímbolos::PrecedePorTexto(IdSímbolo a, IdSímbolo b) const {
     return exponentes_[sa.exponente].texto < exponentes_[sb.exponente].texto;
 }
 
+void TablaSímbolos::Ordena(Literal& literal) const {
+    std::ranges::sort(
+        literal, [&](const Factor& a, const Factor& b) { return Precede(a.símbolo, b.símbolo); });
+}
+
 void TablaSímbolos::CuentaTexto(std::size_t longitud) {
     longitudTextos_ += longitud;
     if (longitud > MáximoTexto || longitudTextos_ > MáximoTextos)
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
 }
 
-GuardaProfundidad::GuardaProfundidad(TablaSímbolos& tabla) : tabla_(tabla) {
-    if (tabla.profundidad == MáximaProfundidad)
+void TablaSímbolos::Entra() {
+    if (profundidad_ == MáximaProfundidad)
         throw ErrorEjecución(EspacioDeCadenasInsuficiente);
-    ++tabla.profundidad;
-}
-
-void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Literal& b,
-                         Literal& producto) {
-    producto.clear();
-    auto i = a.begin();
-    auto j = b.begin();
-    while (i != a.end() && j != b.end()) {
-        if (i->símbolo == j->símbolo) {
-            const double exponente = LimpiaExponente(i->exponente + j->exponente);
-            if (exponente != 0)
-                producto.push_back({i->símbolo, exponente});
-            ++i;
-            ++j;
-        } else if (tabla.Precede(i->símbolo, j->símbolo)) {
-            producto.push_back(*i++);
-        } else {
-            producto.push_back(*j++);
-        }
-    }
-    producto.insert(producto.end(), i, a.end());
-    producto.insert(producto.end(), j, b.end());
-}
-
-FracciónPequeña DevFracciónPequeña(double valor) {
-    constexpr double Máximo = 1e4; // beyond it the digits of a Double no longer tell a fraction
-    constexpr double MáximoDenominador = 1000;
-    constexpr double Tolerancia = 1e-11;
-    if (!(std::fabs(valor) < Máximo))
-        return {valor, EsEntero(valor) ? 1.0 : 0.0};
-    // Convergents, until one is near enough.
-    FracciónPequeña previo{0, 1};
-    FracciónPequeña actual{1, 0};
-    double resto = valor;
-    for (;;) {
-        const double parte = std::floor(resto);
-        const FracciónPequeña siguiente{parte * actual.numerador + previo.numerador,
-                                        parte * actual.denominador + previo.denominador};
-        previo = std::exchange(actual, siguiente);
-        if (actual.denominador > MáximoDenominador)
-            return {valor, 0};
-        if (std::fabs(valor - actual.numerador / actual.denominador) < Tolerancia)
-            return actual;
-        resto = 1 / (resto - parte);
-    }
-}
-
-double LimpiaEntero(double valor) {
-    constexpr double Ruido = 4e-15;
-    const double entero = std::round(valor);
-    return std::fabs(valor - entero) <= Ruido * std::fabs(entero) ? entero : valor;
-}
-
-double LimpiaExponente(double exponente) {
-    if (EsEntero(exponente))
-        return exponente;
-    const FracciónPequeña fracción = DevFracciónPequeña(exponente);
-    if (fracción.denominador != 0)
-        return fracción.numerador / fracción.denominador;
-    constexpr double Escala = 1e12;
-    constexpr double Máximo = 1e3;
-    return std::fabs(exponente) < Máximo ? std::round(exponente * Escala) / Escala : exponente;
-}
-
-std::uint64_t DevHash(const Literal& literal) {
-    // The exponents differ in their highest bits, the table takes the lowest.
-    std::uint64_t hash = 0;
-    for (const Factor& factor : literal) {
-        auto h = std::bit_cast<std::uint64_t>(factor.exponente);
-        h = (h ^ h >> 32) + std::uint64_t{factor.símbolo} * 0x9E3779B97F4A7C15U;
-        h *= 0xD6E8FEB86659FD93U;
-        h = (h ^ h >> 32) * 0xD6E8FEB86659FD93U;
-        hash += h ^ h >> 32;
-    }
-    return hash;
+    ++profundidad_;
 }
 
 std::size_t FinDeBase(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde) {
@@ -179,6 +126,12 @@ std::size_t FinDeBase(const TablaSímbolos& tabla, const Literal& literal, std::
     return fin;
 }
 
+bool EsBaseLlana(const TablaSímbolos& tabla, const Literal& literal, IdBase base) {
+    return std::ranges::none_of(literal, [&](const Factor& factor) {
+        return tabla.IdDe(factor.símbolo) == base && !tabla.EsLlano(factor.símbolo);
+    });
+}
+
 const Base* DevCocienteDe(const TablaSímbolos& tabla, const Literal& literal) {
     if (literal.size() != 1)
         return nullptr;
@@ -186,8 +139,10 @@ const Base* DevCocienteDe(const TablaSímbolos& tabla, const Literal& literal) {
     return base.clase == ClaseBase::Cociente ? &base : nullptr;
 }
 
-bool EsEntero(double valor) {
-    return valor == std::trunc(valor);
+bool HayCocientes(const TablaSímbolos& tabla, const Términos& suma) {
+    return tabla.HayCocientes() && std::ranges::any_of(suma, [&](const Término& t) {
+               return DevCocienteDe(tabla, t.literal) != nullptr;
+           });
 }
 
 } // namespace quiralto

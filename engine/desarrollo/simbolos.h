@@ -1,66 +1,57 @@
-// The values that an expansion computes with: sums of terms, each a number times powers of symbols.
+// The symbols of one expansion: what can stand in front of "^", numbered.
 //
-// A base is what can stand in front of "^": a variable, a number, a function call, a group in
-// parentheses; also a whole quotient, which is never raised. A symbol is a base together with one
-// literal exponent: X^(A+2) is the symbol (X, A) to the 1 times the symbol (X, 1) to the 2. So
-// every exponent in a literal part is a plain number, and equal bases multiply by adding numbers.
-//
-// Symbols and bases are numbered by the table that made them; sums of two tables do not mix. Every
-// text that a base holds is final: its numbers are rounded. Nothing here is nested, so nothing
-// recurs with the depth of the input.
+// A base is a variable, a number, a function call, a group in parentheses or a whole quotient. EXP
+// is the number e raised to its argument, so that its powers multiply like those of any base; SQR
+// knows its argument as a base, of which it is the power to the one half (producto.h). Every text
+// that a base holds is final: its numbers are rounded. Nothing here is nested, so nothing recurs
+// with the depth of the input.
 #pragma once
 
 #include "engine/base/contexto.h"
+#include "engine/desarrollo/suma.h"
+#include "engine/lenguaje/operaciones.h"
 
-#include <cstdint>
 #include <deque>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace quiralto {
 
-using IdSímbolo = std::uint32_t;
-using IdBase = std::uint32_t;
-
-struct Factor {
-    IdSímbolo símbolo;
-    double exponente; // not 0
-    bool operator==(const Factor&) const = default;
-};
-
-// Factors in the order of their texts: variables by their letters (or numbers), then everything
-// else by the text of its base; of one base the plain symbol last. Each symbol once.
-using Literal = std::vector<Factor>;
-
-struct Término {
-    double coeficiente;
-    Literal literal;
-};
-
-// Terms in the order in which they are written; no two with the same literal part, none 0.
-using Términos = std::vector<Término>;
-
-enum class ClaseBase : std::uint8_t { Variable, Número, Función, Grupo, Cociente, Opaca };
+enum class ClaseBase : std::uint8_t { Variable, Número, Función, Euler, Grupo, Cociente, Opaca };
 
 struct Base {
     ClaseBase clase;
-    std::string texto;         // as it stands in front of "^"
-    double número = 0;         // Número: its value; Variable: its place in the alphabet
-    Términos numerador = {};   // Grupo: its contents; Cociente
-    Términos denominador = {}; // Cociente: one term (coefficient positive, not a number) or several
-    IdSímbolo símbolo{};       // its plain symbol
-    std::uint64_t clave{};     // orders bases; equal for some bases of which the text decides
+    std::string texto;       // as it stands in front of "^"
+    double lugar = 0;        // Variable: its place in the alphabet, and what a letter is worth
+    Términos contenido = {}; // Número, Grupo: its value; Función: the argument; Cociente: the
+                             // numerator, its content 1 and its first coefficient positive
+    const DescripciónOperación* función = nullptr; // Función
+    Literal denominador = {};                      // Cociente: exponents above 0
+    bool signoAbajo = false;                       // Cociente: the denominator is the opposite
+    IdSímbolo radicando{}; // Función SQR: the plain symbol of its argument as a base
+    IdSímbolo símbolo{};   // its plain symbol
+    std::uint64_t clave{}; // orders bases; equal for some bases of which the text decides
 };
+
+inline bool EsRaíz(const Base& base) {
+    return base.clase == ClaseBase::Función && base.función->código == Operación::Sqr;
+}
 
 struct Símbolo {
     IdBase base;
     std::uint32_t exponente; // a literal exponent of the table; 0 is 1
 };
 
-// How an expansion treats quotients: as terms of a sum, or as one fraction around everything.
-enum class ClaseDesarrollo : std::uint8_t { Simplificado, Completo };
+// How an expansion treats quotients (as terms of a sum, or as one fraction around everything), and
+// which terms are alike in it: those whose values agree too, or, in the equations of a linear
+// system, where an unknown has no value, only those that are equal to the letter. There what has a
+// value (a function of a number, a power of two numbers) is evaluated at once.
+enum class ClaseDesarrollo : std::uint8_t { Simplificado, Completo, EcuaciónLineal };
+
+class PuntosDePrueba;
 
 class TablaSímbolos {
 public:
@@ -74,12 +65,16 @@ public:
     IdSímbolo DevVariable(double lugar, std::string texto);
     IdSímbolo DevBase(Base base);
 
-    // The same base with a literal part as its exponent; `texto` is the literal part's.
+    // The base whose powers EXP writes.
+    IdBase DevEuler();
+
+    // The same base with a literal part as its exponent; `texto` is the literal part's. Fault:
+    // run-time error 14 for exponents too deep in exponents.
     IdSímbolo ConExponente(IdBase base, const Literal& literal, const std::string& texto);
 
     const Base& BaseDe(IdSímbolo s) const { return bases_[símbolos_[s].base]; }
+    const Base& BasePorId(IdBase b) const { return bases_[b]; }
     IdBase IdDe(IdSímbolo s) const { return símbolos_[s].base; }
-    IdSímbolo SímboloDe(IdBase b) const { return bases_[b].símbolo; }
     bool EsLlano(IdSímbolo s) const { return símbolos_[s].exponente == 0; }
     const std::string& TextoExponente(IdSímbolo s) const {
         return exponentes_[símbolos_[s].exponente].texto;
@@ -87,26 +82,35 @@ public:
     const Literal& LiteralExponente(IdSímbolo s) const {
         return exponentes_[símbolos_[s].exponente].literal;
     }
+    // Which literal exponent it is; 0 is 1.
+    std::uint32_t IdExponente(IdSímbolo s) const { return símbolos_[s].exponente; }
 
     // The order of the factors of a literal part.
     bool Precede(IdSímbolo a, IdSímbolo b) const {
         return claves_[a] != claves_[b] ? claves_[a] < claves_[b] : PrecedePorTexto(a, b);
     }
+    void Ordena(Literal& literal) const;
 
-    // Like terms only to the letter: for unknowns that no value stands for.
-    bool soloPorLetra = false;
-
-    // How deep the quotients and groups at work stand inside each other.
-    int profundidad = 0;
-
-    // Whether a product can meet a group or a number that has become a whole power.
+    // Whether a product can meet a group or a number that has become a whole power, a root, a
+    // quotient.
     bool HayBasesReducibles() const { return hayReducibles_; }
+    bool HayRaíces() const { return hayRaíces_; }
     bool HayCocientes() const { return hayCocientes_; }
+    bool SoloPorLetra() const { return clase == ClaseDesarrollo::EcuaciónLineal; }
+
+    // One more level of quotients and groups at work inside each other; see GuardaProfundidad.
+    void Entra();
+    void Sale() { --profundidad_; }
+
+    // The points of puntos_de_prueba.h, once they are drawn.
+    const std::shared_ptr<PuntosDePrueba>& Puntos() const { return puntos_; }
+    void PonPuntos(std::shared_ptr<PuntosDePrueba> puntos) { puntos_ = std::move(puntos); }
 
 private:
-    struct Exponente {
+    struct ExponenteLiteral {
         std::string texto;
         Literal literal;
+        int hondura = 0; // how deep exponents stand in it
     };
 
     bool PrecedePorTexto(IdSímbolo a, IdSímbolo b) const;
@@ -115,12 +119,15 @@ private:
     std::deque<Base> bases_; // references to them stay valid
     std::vector<Símbolo> símbolos_;
     std::vector<std::uint64_t> claves_; // of the base of each symbol
-    std::deque<Exponente> exponentes_;
-    std::unordered_map<std::string, IdSímbolo> porTexto_;
-    std::unordered_map<std::string, std::uint32_t> exponentePorTexto_;
+    std::deque<ExponenteLiteral> exponentes_;
+    std::unordered_map<std::string_view, IdSímbolo> porTexto_; // the texts of bases_
+    std::unordered_map<std::string_view, std::uint32_t> exponentePorTexto_;
     std::unordered_map<std::uint64_t, IdSímbolo> porPareja_; // base and literal exponent
+    std::shared_ptr<PuntosDePrueba> puntos_;
     std::size_t longitudTextos_ = 0;
+    int profundidad_ = 0;
     bool hayReducibles_ = false;
+    bool hayRaíces_ = false;
     bool hayCocientes_ = false;
 };
 
@@ -128,8 +135,8 @@ private:
 // depth ends in run-time error 14.
 class GuardaProfundidad {
 public:
-    explicit GuardaProfundidad(TablaSímbolos& tabla);
-    ~GuardaProfundidad() { --tabla_.profundidad; }
+    explicit GuardaProfundidad(TablaSímbolos& tabla) : tabla_(tabla) { tabla.Entra(); }
+    ~GuardaProfundidad() { tabla_.Sale(); }
     GuardaProfundidad(const GuardaProfundidad&) = delete;
     GuardaProfundidad& operator=(const GuardaProfundidad&) = delete;
 
@@ -137,46 +144,15 @@ private:
     TablaSímbolos& tabla_;
 };
 
-// The fraction with a denominator up to 1000 that a number is, but for the noise of rounding. The
-// denominator is positive, 1 for a whole number, and 0 where there is none.
-struct FracciónPequeña {
-    double numerador;
-    double denominador;
-};
-FracciónPequeña DevFracciónPequeña(double valor);
-
-// An exponent without the noise of sums and products of thirds and decimals, which would keep equal
-// powers apart.
-double LimpiaExponente(double exponente);
-
-// The whole number that the noise of a power or a quotient keeps a coefficient from being.
-double LimpiaEntero(double valor);
-
-// The product of two literal parts, into `producto` (not one of the two).
-void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Literal& b,
-                         Literal& producto);
-
-std::uint64_t DevHash(const Literal& literal);
-
 // The factors of one base that stand together from literal[desde]: the position behind them.
 std::size_t FinDeBase(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde);
 
-// The quotient that a term is, or nullptr. A term of a sum that holds a quotient holds nothing
-// else but its coefficient.
-const Base* DevCocienteDe(const TablaSímbolos& tabla, const Literal& literal);
+// Whether a literal part has no power of that base with more than a number as its exponent.
+bool EsBaseLlana(const TablaSímbolos& tabla, const Literal& literal, IdBase base);
 
-inline Términos SumaNúmero(double valor) {
-    return valor == 0 ? Términos{} : Términos{{valor, {}}};
-}
-inline Términos SumaSímbolo(IdSímbolo símbolo, double exponente = 1) {
-    return {{1, {{símbolo, exponente}}}};
-}
-inline bool EsNúmero(const Términos& suma) {
-    return suma.empty() || (suma.size() == 1 && suma[0].literal.empty());
-}
-inline double DevNúmero(const Términos& suma) {
-    return suma.empty() ? 0 : suma[0].coeficiente;
-}
-bool EsEntero(double valor);
+// The quotient that a term is, or nullptr. A term of a sum that holds a quotient holds nothing
+// else but its coefficient, save for quotients that stay nested inside a numerator or denominator.
+const Base* DevCocienteDe(const TablaSímbolos& tabla, const Literal& literal);
+bool HayCocientes(const TablaSímbolos& tabla, const Términos& suma);
 
 } // namespace quiralto

@@ -30,15 +30,6 @@ int DevIndiceSln(std::string_view base) {
     return número && entero >= 1 && entero <= MáximoÍndiceSln ? static_cast<int>(entero) : 0;
 }
 
-// What an expansion has computed as a number of at most 15 digits is that number.
-Coeficiente DevCoeficiente(double valor) {
-    return Val(TextoNúmero(valor)) == valor ? Coeficiente::DesdeDouble(valor)
-                                            : Coeficiente::Inexacto(valor);
-}
-[[maybe_unused]] const Coeficiente& DevCoeficiente(const Coeficiente& valor) {
-    return valor;
-}
-
 // Whether the base is one call of SLN and nothing else.
 bool EsIncógnita(const Base& base) {
     return (base.clase == ClaseBase::Variable || base.clase == ClaseBase::Función) &&
@@ -81,7 +72,7 @@ public:
 
 private:
     bool LeeTérmino(const Término& término) {
-        Coeficiente coeficiente = DevCoeficiente(término.coeficiente);
+        Coeficiente coeficiente = término.coeficiente;
         int índice = 0;
         for (const Factor& factor : término.literal) {
             const Base& base = tabla_.BaseDe(factor.símbolo);
@@ -134,8 +125,7 @@ private:
 } // namespace
 
 std::optional<EcuaciónLineal> LeeEcuaciónLineal(Contexto& contexto, std::string_view expresión) {
-    TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
-    tabla.soloPorLetra = true;
+    TablaSímbolos tabla(contexto, ClaseDesarrollo::EcuaciónLineal);
     const Programa programa = CompilaExpresión(expresión);
     if (PasaDeGradoUno(programa)) {
         RechazaNoLineal(contexto);

@@ -20,11 +20,14 @@ inline std::string Desarrolla(Contexto& contexto, Clase clase, const std::string
 // In the tests' tables the letters A and B stand for SLN(65) and SLN(66), and so on.
 inline std::string ConSln(std::string_view texto) {
     std::string sustituido;
-    for (const char c : texto)
-        if (c >= 'A' && c <= 'D')
+    const auto esLetra = [&](std::size_t i) {
+        return i < texto.size() && texto[i] >= 'A' && texto[i] <= 'Z';
+    };
+    for (std::size_t i = 0; i < texto.size(); ++i)
+        if (const char c = texto[i]; c >= 'A' && c <= 'D' && !esLetra(i - 1) && !esLetra(i + 1))
             sustituido += "SLN(" + std::to_string(static_cast<int>(c)) + ")";
         else
-            sustituido += c;
+            sustituido += texto[i];
     return sustituido;
 }
 

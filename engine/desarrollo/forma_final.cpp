@@ -1,0 +1,111 @@
+#include "engine/desarrollo/forma_final.h"
+
+#include "engine/desarrollo/cociente.h"
+#include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/potencia.h"
+#include "engine/desarrollo/producto.h"
+#include "engine/desarrollo/semejantes.h"
+
+#include <algorithm>
+
+namespace quiralto {
+namespace {
+
+bool EsLlana(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde,
+             std::size_t fin) {
+    return fin == desde + 1 && tabla.EsLlano(literal[desde].símbolo) &&
+           tabla.BaseDe(literal[desde].símbolo).clase != ClaseBase::Euler;
+}
+
+// Whether the exponents of one base read as they would be written by themselves.
+bool EstáAsentado(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde,
+                  std::size_t fin) {
+    if (EsLlana(tabla, literal, desde, fin))
+        return true;
+    bool hayCociente = false;
+    bool decimales = true;
+    for (std::size_t i = desde; i < fin; ++i) {
+        hayCociente = hayCociente ||
+                      DevCocienteDe(tabla, tabla.LiteralExponente(literal[i].símbolo)) != nullptr;
+        decimales = decimales && EsDecimal(tabla, literal[i].exponente.Valor());
+    }
+    return tabla.clase == ClaseDesarrollo::Completo ? !hayCociente || fin == desde + 1 : decimales;
+}
+
+bool EstánAsentados(const TablaSímbolos& tabla, const Literal& literal) {
+    for (std::size_t i = 0; i < literal.size();) {
+        const std::size_t fin = FinDeBase(tabla, literal, i);
+        if (!EstáAsentado(tabla, literal, i, fin))
+            return false;
+        i = fin;
+    }
+    return true;
+}
+
+Literal Asienta(TablaSímbolos& tabla, const Literal& literal) {
+    Literal asentado;
+    for (std::size_t i = 0; i < literal.size();) {
+        const std::size_t fin = FinDeBase(tabla, literal, i);
+        if (EstáAsentado(tabla, literal, i, fin)) {
+            asentado.insert(asentado.end(), literal.begin() + static_cast<std::ptrdiff_t>(i),
+                            literal.begin() + static_cast<std::ptrdiff_t>(fin));
+        } else {
+            Términos exponente = DevExponente(tabla, literal, i, fin);
+            exponente = tabla.clase == ClaseDesarrollo::Completo
+                            ? Cierra(tabla, SobreUnDenominador(tabla, exponente))
+                            : DevFormaFinal(tabla, std::move(exponente));
+            const Literal potencia =
+                DevPotenciaDe(tabla, tabla.IdDe(literal[i].símbolo), exponente);
+            asentado.insert(asentado.end(), potencia.begin(), potencia.end());
+        }
+        i = fin;
+    }
+    return asentado;
+}
+
+} // namespace
+
+namespace {
+
+// A negative number times a quotient with a sign below is one without either. Whether it was.
+bool QuitaSignos(TablaSímbolos& tabla, Término& término) {
+    const Base* const cociente = DevCocienteDe(tabla, término.literal);
+    if (cociente == nullptr || !cociente->signoAbajo || término.literal[0].exponente != 1 ||
+        término.coeficiente.Signo() > 0)
+        return false;
+    Base sinSigno = *cociente;
+    sinSigno.signoAbajo = false;
+    sinSigno.texto = EscribeFracción(tabla, sinSigno.contenido, {{1, sinSigno.denominador}});
+    término.literal[0].símbolo = tabla.DevBase(std::move(sinSigno));
+    término.coeficiente.CambiaSigno();
+    return true;
+}
+
+} // namespace
+
+Términos DevAsentada(TablaSímbolos& tabla, Términos suma) {
+    bool otros = false; // literal parts have changed
+    for (Término& término : suma) {
+        otros = QuitaSignos(tabla, término) || otros;
+        if (!EstánAsentados(tabla, término.literal)) {
+            const GuardaProfundidad guarda(tabla);
+            término.literal = Asienta(tabla, término.literal);
+            otros = true;
+        }
+    }
+    if (!otros)
+        return suma;
+    // Rounded exponents can have made literal parts equal, and powers whole.
+    suma = MultiplicaSumas(tabla, suma, SumaNúmero(1));
+    FundeSemejantes(tabla, suma);
+    return suma;
+}
+
+Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma) {
+    suma = DevAsentada(tabla, std::move(suma));
+    for (Término& término : suma)
+        término.coeficiente = DevCoeficienteEscrito(tabla, término);
+    return suma;
+}
+
+} // namespace quiralto

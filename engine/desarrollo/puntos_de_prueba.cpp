@@ -1,0 +1,202 @@
+#include "engine/desarrollo/puntos_de_prueba.h"
+
+#include "engine/lenguaje/aritmetica.h"
+#include "engine/lenguaje/compila.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace quiralto {
+namespace {
+
+constexpr double SinValor = std::numeric_limits<double>::quiet_NaN();
+
+double SóloFinito(double valor) {
+    return std::isfinite(valor) ? valor : SinValor;
+}
+
+// Not a number outside the domain and beyond the Double range.
+double ValorDe(const DescripciónOperación& operación, double izquierdo, double derecho) {
+    if (operación.fallo(izquierdo, derecho) != SinFallo)
+        return SinValor;
+    return SóloFinito(operación.valor(izquierdo, derecho, nullptr));
+}
+
+double Sortea(Contexto& contexto) {
+    return std::uniform_real_distribution<double>(0, 1)(contexto.generador);
+}
+
+// One value in each tenth of (-1, 1), in an order of its own.
+std::array<double, PuntosDePrueba::Decena> SorteaDecena(Contexto& contexto) {
+    std::array<double, PuntosDePrueba::Decena> valores{};
+    for (std::size_t i = 0; i < valores.size(); ++i) {
+        const double décima = (static_cast<double>(i) + Sortea(contexto)) / valores.size();
+        const auto lugar = static_cast<std::size_t>(Sortea(contexto) * static_cast<double>(i + 1));
+        valores[i] = valores[lugar];
+        valores[lugar] = 2 * décima - 1;
+    }
+    return valores;
+}
+
+} // namespace
+
+PuntosDePrueba::PuntosDePrueba(const TablaSímbolos& tabla)
+    : tabla_(tabla), fase_(Sortea(tabla.contexto)), segundos_(SorteaDecena(tabla.contexto)) {
+}
+
+PuntosDePrueba& DevPuntos(TablaSímbolos& tabla) {
+    if (!tabla.Puntos())
+        tabla.PonPuntos(std::make_shared<PuntosDePrueba>(tabla));
+    return *tabla.Puntos();
+}
+
+double PuntosDePrueba::En(Conjunto conjunto, const Literal& literal, std::size_t punto) {
+    const Vista vista = conjunto == Conjunto::Primero ? Vista::Primera : Vista::SegundaFuera;
+    Asegura(vista, literal, (punto / Decena + 1) * Decena);
+    return DeLiteral(vista, literal, punto);
+}
+
+double PuntosDePrueba::X(Vista vista, std::size_t punto) {
+    if (vista != Vista::Primera)
+        return segundos_[punto];
+    // Steps of the golden ratio fill the interval evenly, however many are taken.
+    constexpr double Paso = 0.6180339887498949;
+    constexpr double Ancho = 21;
+    constexpr double Principio = -10;
+    const double r = fase_ + Paso * static_cast<double>(punto);
+    return (r - std::floor(r)) * Ancho + Principio;
+}
+
+double PuntosDePrueba::Letra(Vista vista, double lugar, std::size_t punto) {
+    if (vista != Vista::SegundaDentro)
+        return lugar;
+    auto letra = letras_.find(lugar);
+    if (letra == letras_.end())
+        letra = letras_.emplace(lugar, SorteaDecena(tabla_.contexto)).first;
+    return letra->second[punto];
+}
+
+bool PuntosDePrueba::Faltan(Vista vista, const Literal& literal, std::size_t hasta) {
+    const std::size_t antes = pendientes_.size();
+    const auto mira = [&](Vista v, IdSímbolo símbolo) {
+        const IdBase base = tabla_.IdDe(símbolo);
+        std::vector<Valores>& filas = bases_[static_cast<std::size_t>(v)];
+        if (filas.size() <= base)
+            filas.resize(base + 1);
+        if (filas[base].size() < hasta)
+            pendientes_.emplace_back(v, base);
+    };
+    for (const Factor& factor : literal) {
+        mira(vista, factor.símbolo);
+        if (!tabla_.EsLlano(factor.símbolo)) // as deep as the table lets exponents stand
+            Faltan(Dentro(vista), tabla_.LiteralExponente(factor.símbolo), hasta);
+    }
+    return pendientes_.size() != antes;
+}
+
+bool PuntosDePrueba::Faltan(Vista vista, const Términos& suma, std::size_t hasta) {
+    bool faltan = false;
+    for (const Término& término : suma)
+        faltan = Faltan(vista, término.literal, hasta) || faltan;
+    return faltan;
+}
+
+// What a base is made of and has no values yet is put on the list of what is to be done before.
+bool PuntosDePrueba::FaltanDentro(Vista vista, const Base& base, std::size_t hasta) {
+    if (base.clase == ClaseBase::Cociente) {
+        const bool arriba = Faltan(VistaDelNumerador(vista, base), base.contenido, hasta);
+        return Faltan(vista, base.denominador, hasta) || arriba;
+    }
+    return Faltan(Dentro(vista), base.contenido, hasta);
+}
+
+void PuntosDePrueba::Asegura(Vista vista, const Literal& literal, std::size_t hasta) {
+    pendientes_.clear();
+    Faltan(vista, literal, hasta);
+    while (!pendientes_.empty()) {
+        const auto [v, id] = pendientes_.back();
+        const Base& base = tabla_.BasePorId(id);
+        if (FaltanDentro(v, base, hasta))
+            continue;
+        Valores& fila = bases_[static_cast<std::size_t>(v)][id];
+        for (std::size_t i = fila.size(); i < hasta; ++i)
+            fila.push_back(SóloFinito(Calcula(v, base, i)));
+        pendientes_.pop_back();
+    }
+}
+
+double PuntosDePrueba::Calcula(Vista vista, const Base& base, std::size_t punto) {
+    switch (base.clase) {
+    case ClaseBase::Variable:
+        return base.texto == "X" ? X(vista, punto) : Letra(vista, base.lugar, punto);
+    case ClaseBase::Función:
+        return ValorDe(*base.función, 0, DeSuma(Dentro(vista), base.contenido, punto));
+    case ClaseBase::Euler:
+        return std::exp(1.0);
+    case ClaseBase::Número:
+    case ClaseBase::Grupo:
+        return DeSuma(Dentro(vista), base.contenido, punto);
+    case ClaseBase::Cociente:
+        return DeSuma(VistaDelNumerador(vista, base), base.contenido, punto) /
+               DeLiteral(vista, base.denominador, punto) * (base.signoAbajo ? -1 : 1);
+    case ClaseBase::Opaca:
+        break;
+    }
+    return CalculaOpaca(vista, base, punto);
+}
+
+double PuntosDePrueba::DeSuma(Vista vista, const Términos& suma, std::size_t punto) {
+    double valor = 0;
+    for (const Término& término : suma)
+        valor += término.coeficiente.ADouble() * DeLiteral(vista, término.literal, punto);
+    return valor;
+}
+
+double PuntosDePrueba::DeLiteral(Vista vista, const Literal& literal, std::size_t punto) {
+    double producto = 1;
+    for (std::size_t i = 0; i < literal.size();) {
+        const std::size_t fin = FinDeBase(tabla_, literal, i);
+        producto *= DePotencia(vista, literal, i, fin, punto);
+        i = fin;
+    }
+    return SóloFinito(producto);
+}
+
+double PuntosDePrueba::DePotencia(Vista vista, const Literal& literal, std::size_t desde,
+                                  std::size_t fin, std::size_t punto) {
+    const Factor& primero = literal[desde];
+    const double base =
+        bases_[static_cast<std::size_t>(vista)][tabla_.IdDe(primero.símbolo)][punto];
+    if (fin == desde + 1 && tabla_.EsLlano(primero.símbolo))
+        return primero.exponente == 1 ? base : DevPotencia(base, primero.exponente.ADouble());
+    double exponente = 0;
+    for (std::size_t i = desde; i < fin; ++i)
+        exponente += literal[i].exponente.ADouble() *
+                     DeLiteral(Dentro(vista), tabla_.LiteralExponente(literal[i].símbolo), punto);
+    return tabla_.BaseDe(primero.símbolo).clase == ClaseBase::Euler ? std::exp(exponente)
+                                                                    : DevPotencia(base, exponente);
+}
+
+// A text of the language that was never taken apart: its letters all count as inside.
+double PuntosDePrueba::CalculaOpaca(Vista vista, const Base& base, std::size_t punto) {
+    const IdBase id = tabla_.IdDe(base.símbolo);
+    auto programa = opacas_.find(id);
+    if (programa == opacas_.end())
+        programa = opacas_.emplace(id, CompilaExpresión(base.texto)).first;
+    std::vector<double>& registros = programa->second.registros;
+    registros[0] = X(vista, punto);
+    for (const Instrucción& i : programa->second.instrucciones) {
+        double& resultado = registros[static_cast<std::size_t>(i.resultado)];
+        const DescripciónOperación& operación = *BuscaOperación(i.código);
+        const double derecho = registros[static_cast<std::size_t>(i.derecho)];
+        resultado =
+            operación.familia == Familia::Símbolo
+                ? Letra(Dentro(vista), derecho, punto)
+                : ValorDe(operación, registros[static_cast<std::size_t>(i.izquierdo)], derecho);
+    }
+    return registros[programa->second.Resultado()];
+}
+
+} // namespace quiralto

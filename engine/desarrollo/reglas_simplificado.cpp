@@ -1,0 +1,135 @@
+#include "engine/desarrollo/reglas_simplificado.h"
+
+#include "engine/desarrollo/cociente.h"
+#include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/forma_final.h"
+#include "engine/desarrollo/semejantes.h"
+
+namespace quiralto {
+
+using Valor = ReglasSimplificado::Valor;
+
+Valor ReglasSimplificado::DeX() {
+    return {.suma = SumaSímbolo(tabla_.DevVariable('X', "X")), .producto = {}};
+}
+
+Valor ReglasSimplificado::DeNúmero(double valor) {
+    return {.suma = SumaNúmero(Coeficiente::DesdeDouble(valor)), .producto = {}};
+}
+
+Valor ReglasSimplificado::Opera(const DescripciónOperación& operación, Valor a, Valor b) {
+    switch (operación.familia) {
+    case Familia::Suma:
+        return Suma(std::move(a), std::move(b), 1);
+    case Familia::Resta:
+        return Suma(std::move(a), std::move(b), -1);
+    case Familia::Producto:
+        return Producto(a, b);
+    case Familia::Cociente:
+        return Cociente(a, b);
+    case Familia::Potencia:
+        return Potencia(a, b);
+    case Familia::Función:
+    case Familia::Símbolo:
+        break;
+    }
+    return Llamada(operación, b);
+}
+
+void ReglasSimplificado::Cierra(Valor& valor) {
+    if (!valor.producto)
+        return;
+    valor.suma = quiralto::Cierra(tabla_, *valor.producto);
+    valor.producto.reset();
+}
+
+Términos ReglasSimplificado::ComoSuma(Valor& valor) {
+    Cierra(valor);
+    return valor.suma.Cerrada();
+}
+
+FracciónAbierta ReglasSimplificado::ComoProducto(Valor& valor) {
+    return valor.producto ? std::move(*valor.producto) : Abre(tabla_, valor.suma.Cerrada());
+}
+
+FracciónAbierta ReglasSimplificado::ComoFracción(Valor& valor) {
+    if (!valor.producto)
+        return SobreUnDenominadorSiCabe(tabla_, valor.suma.Cerrada());
+    FracciónAbierta f = std::move(*valor.producto);
+    std::vector<quiralto::Potencia> sumas = std::move(f.sumas);
+    f.sumas.clear();
+    for (quiralto::Potencia& potencia : sumas) {
+        if (!HayCocientes(tabla_, potencia.suma))
+            f.sumas.push_back(std::move(potencia));
+        else
+            f = Multiplica(
+                tabla_, std::move(f),
+                Eleva(tabla_, SobreUnDenominadorSiCabe(tabla_, potencia.suma), potencia.exponente));
+    }
+    return f;
+}
+
+bool ReglasSimplificado::EsSumaConCocientes(Valor& valor) {
+    return !valor.producto && valor.suma.Cantidad() > 1 &&
+           HayCocientes(tabla_, valor.suma.Cerrada());
+}
+
+Valor ReglasSimplificado::Suma(Valor a, Valor b, int signo) {
+    if (b.producto && !a.producto && a.suma.Cantidad() == 0) { // a sign alone
+        if (signo < 0)
+            b.producto->coeficiente.CambiaSigno();
+        return b;
+    }
+    Cierra(a);
+    Cierra(b);
+    a.suma.Añade(tabla_, std::move(b.suma), signo);
+    return a;
+}
+
+Valor ReglasSimplificado::Producto(Valor& a, Valor& b) {
+    if (EsSumaConCocientes(a) || EsSumaConCocientes(b)) {
+        Términos producto = MultiplicaConCocientes(tabla_, ComoSuma(a), ComoSuma(b));
+        FundeSemejantes(tabla_, producto);
+        return {.suma = std::move(producto), .producto = {}};
+    }
+    return {.suma = {}, .producto = Multiplica(tabla_, ComoProducto(a), ComoProducto(b))};
+}
+
+Valor ReglasSimplificado::Cociente(Valor& a, Valor& b) {
+    if (!b.producto && EsNúmero(b.suma.Cerrada()) && EsSumaConCocientes(a)) {
+        Términos suma = ComoSuma(a);
+        EscalaSuma(suma, DevNúmero(b.suma.Cerrada()).Inverso());
+        return {.suma = std::move(suma), .producto = {}};
+    }
+    FracciónAbierta inversa = DevInversa(tabla_, ComoFracción(b));
+    if (inversa.abajo.empty() && inversa.signoAbajo) { // a number alone
+        inversa.signoAbajo = false;
+        inversa.coeficiente.CambiaSigno();
+    }
+    return {.suma = {}, .producto = Multiplica(tabla_, ComoFracción(a), std::move(inversa))};
+}
+
+Valor ReglasSimplificado::Potencia(Valor& a, Valor& b) {
+    const Términos exponente = ComoSuma(b);
+    const auto entero = DevExponenteEntero(exponente);
+    if (!entero) {
+        const Términos base = DevFormaFinal(tabla_, ComoSuma(a));
+        return {.suma = ElevaAlFinal(tabla_, base,
+                                     EsNúmero(exponente) ? exponente
+                                                         : DevFormaFinal(tabla_, exponente)),
+                .producto = {}};
+    }
+    FracciónAbierta base = *entero < 0 ? ComoFracción(a) : ComoProducto(a);
+    return {.suma = {}, .producto = Eleva(tabla_, std::move(base), *entero)};
+}
+
+Valor ReglasSimplificado::Llamada(const DescripciónOperación& función, Valor& argumento) {
+    const Términos final = DevFormaFinal(tabla_, ComoSuma(argumento));
+    return {.suma = DevLlamada(tabla_, función, final, EscribeSuma(tabla_, final)), .producto = {}};
+}
+
+std::string ReglasSimplificado::Escribe(Valor valor) {
+    return EscribeSuma(tabla_, DevFormaFinal(tabla_, ComoSuma(valor)));
+}
+
+} // namespace quiralto
