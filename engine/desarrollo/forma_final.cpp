@@ -1,9 +1,10 @@
 #include "engine/desarrollo/forma_final.h"
 
-#include "engine/desarrollo/cociente.h"
 #include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/fraccion_abierta.h"
 #include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto.h"
+#include "engine/desarrollo/recursion.h"
 #include "engine/desarrollo/semejantes.h"
 
 #include <algorithm>

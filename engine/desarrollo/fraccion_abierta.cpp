@@ -2,10 +2,9 @@
 
 #include "engine/base/fallos.h"
 #include "engine/desarrollo/division_exacta.h"
-#include "engine/desarrollo/forma_final.h"
 #include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto.h"
-#include "engine/desarrollo/reduccion.h"
+#include "engine/desarrollo/recursion.h"
 
 #include <algorithm>
 

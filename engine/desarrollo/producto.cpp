@@ -1,9 +1,9 @@
 #include "engine/desarrollo/producto.h"
 
 #include "engine/desarrollo/forma_canonica.h"
-#include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto_empaquetado.h"
 #include "engine/desarrollo/recolector.h"
+#include "engine/desarrollo/recursion.h"
 
 #include <algorithm>
 #include <cassert>
