@@ -1,9 +1,11 @@
 #include "commands/sistemas.h"
 
 #include "commands/formas.h"
+#include "engine/desarrollo/escribe.h"
 #include "engine/lenguaje/operaciones.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/lenguaje/termino_texto.h"
+#include "engine/numeros/numero.h"
 #include "engine/sistemas/ecuacion_lineal.h"
 #include "engine/sistemas/ecuacion_llana.h"
 
@@ -35,10 +37,17 @@ std::string TextoSln(std::size_t columna) {
     return std::string(PrefijoSln) + std::to_string(columna + 1) + ')';
 }
 
-// The number as it is written: rounded, but not to 0 where it is none.
-double DevEscrito(const Coeficiente& valor, int dígitos) {
-    const double redondo = valor.Escrito(dígitos).ADouble();
-    return redondo == 0 && valor.EsExacto() ? valor.ADouble() : redondo;
+// Adds coeficiente * literal, rounded, but for what rounding would make 0: that is a fraction.
+void EscribeSumando(std::string& salida, const Coeficiente& coeficiente, const std::string& literal,
+                    int dígitos, std::size_t principio) {
+    const Coeficiente redondo = coeficiente.Escrito(dígitos);
+    if (!redondo.EsCero() || !coeficiente.EsExacto() || coeficiente.EsCero())
+        return EscribeTérmino(salida, redondo.ADouble(), literal, principio);
+    const Coeficiente fracción = DevFracciónEscrita(coeficiente);
+    const std::string divisor = '/' + TextoNúmero(fracción.Denominador().ADouble());
+    const double numerador = fracción.Numerador().ADouble();
+    EscribeTérmino(salida, numerador, literal.empty() ? literal : literal + divisor, principio);
+    salida += literal.empty() ? divisor : "";
 }
 
 // The unknown as its row gives it: the constant, then the free unknowns in ascending order.
@@ -46,12 +55,11 @@ void EscribeSolución(std::string& salida, const SistemaLineal& sistema, std::si
                      std::size_t líder, int dígitos) {
     const std::size_t principio = salida.size();
     const std::size_t incógnitas = sistema.Incógnitas();
-    EscribeTérmino(salida, DevEscrito(sistema.Cociente(fila, incógnitas, líder), dígitos), "",
-                   principio);
+    EscribeSumando(salida, sistema.Cociente(fila, incógnitas, líder), {}, dígitos, principio);
     for (std::size_t c = 0; c < incógnitas; ++c)
         if (const Coeficiente cociente = sistema.Cociente(fila, c, líder);
             c != líder && !cociente.EsCero())
-            EscribeTérmino(salida, DevEscrito(-cociente, dígitos), TextoSln(c), principio);
+            EscribeSumando(salida, -cociente, TextoSln(c), dígitos, principio);
     if (salida.size() == principio)
         salida += '0';
 }

@@ -18,8 +18,7 @@ struct TérminoSln {
     Coeficiente coeficiente;
 };
 
-// The sum of the terms (each unknown once, in ascending order) is `independiente`. An unknown whose
-// terms have come to 0 in figures alone stays, with coefficient 0.
+// The sum of the terms (each unknown once, in ascending order) is `independiente`.
 struct EcuaciónLineal {
     std::vector<TérminoSln> términos;
     Coeficiente independiente;

@@ -140,7 +140,7 @@ TEST(Sistemas, LoLlanoYLoGeneralEscribenLoMismo) {
                 lado += k == 0 ? "" : azar() % 2 == 0 ? "-" : "+";
                 lado += std::to_string(azar() % 100);
                 if (azar() % 2 == 0)
-                    lado += "." + std::to_string(125 * (1 + azar() % 7)); // sums of eighths
+                    lado += "." + std::to_string(azar() % 1000);
                 lado += azar() % 5 == 0 ? "" : "*X(" + std::to_string(1 + azar() % 4) + ")";
             }
             lado += "+X(" + std::to_string(1 + i) + ")";
