@@ -30,15 +30,18 @@ inline bool SonCompatibles(const ValorAcotado& a, const ValorAcotado& b) {
 // How far the constants of a written text may be from the numbers that they stand for: half a unit
 // of the last decimal place, and half a unit of the fifteenth significant digit.
 struct Redondeo {
-    long double mediaUnidad = 0; // 0: every constant is exact
+    long double mediaUnidad = 0; // 0: every constant is as it was typed
     bool tambiénEnteros = false; // whole constants too may have been rounded
 
     long double CotaDe(double constante) const {
         constexpr long double Relativa = 5e-15L;
-        const bool esEntera = constante == std::trunc(constante);
-        if (mediaUnidad == 0 || (esEntera && !tambiénEnteros))
-            return 0;
-        return mediaUnidad + Relativa * std::fabs(constante);
+        constexpr long double MáximoEntero = 0x1p53L;
+        const long double tamaño = std::fabs(constante);
+        const bool esEntera = constante == std::trunc(constante) && tamaño <= MáximoEntero;
+        // A decimal is not the Double that it is read as.
+        if (mediaUnidad == 0)
+            return esEntera ? 0 : tamaño * 0x1p-53L;
+        return esEntera && !tambiénEnteros ? 0 : mediaUnidad + Relativa * tamaño;
     }
 };
 
