@@ -14,6 +14,10 @@ char EnMayúscula(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - Distancia) : c;
 }
 
+constexpr bool EsLetra(int c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 // Whether the letter at i is the exponent letter of the number on its left: "2E8", "1.5D-3".
 bool EsMarcaExponente(std::string_view texto, std::size_t i) {
     if ((texto[i] != 'D' && texto[i] != 'E') || i == 0 ||
@@ -30,20 +34,18 @@ std::string SustituyeVariables(std::string_view texto) {
     std::ranges::transform(mayúsculas, mayúsculas.begin(), EnMayúscula);
     std::string sustituido;
     sustituido.reserve(texto.size() * 2);
-    for (std::size_t i = 0; i < mayúsculas.size();) {
+    for (std::size_t i = 0; i < texto.size();) {
         const std::string_view resto = std::string_view(mayúsculas).substr(i);
         const std::size_t nombre = LongitudNombre(resto);
-        const char c = mayúsculas[i];
-        if (nombre > 0) {
+        if (nombre > 0)
             sustituido += resto.substr(0, nombre);
-            i += nombre;
-            continue;
-        }
-        if (c >= 'A' && c <= 'Z' && c != 'X' && !EsMarcaExponente(mayúsculas, i))
-            ((sustituido += PrefijoSln) += std::to_string(static_cast<int>(c))) += ')';
+        else if (EsMarcaExponente(mayúsculas, i))
+            sustituido += mayúsculas[i];
+        else if (EsLetra(texto[i]) && texto[i] != 'X')
+            ((sustituido += PrefijoSln) += std::to_string(static_cast<int>(texto[i]))) += ')';
         else
-            sustituido += c;
-        ++i;
+            sustituido += texto[i];
+        i += std::max<std::size_t>(nombre, 1);
     }
     return sustituido;
 }
@@ -57,7 +59,7 @@ std::string SustituyeSln(std::string_view texto) {
             int código = 0;
             const char* const fin = texto.data() + texto.size();
             const auto leído = std::from_chars(resto.data() + PrefijoSln.size(), fin, código);
-            if (leído.ptr != fin && *leído.ptr == ')' && código >= 'A' && código <= 'Z') {
+            if (leído.ptr != fin && *leído.ptr == ')' && EsLetra(código)) {
                 sustituido += static_cast<char>(código);
                 i = static_cast<std::size_t>(leído.ptr - texto.data()) + 1;
                 continue;

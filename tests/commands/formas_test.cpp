@@ -58,7 +58,7 @@ TEST(Formas, LoLeídoSonValores) {
     EXPECT_EQ(std::get<DatosNúmeros>(Lee(banco, FormaEnteros, "0,5\r\n0,75").datos),
               (DatosNúmeros{0, 5, 0, 75}));
     EXPECT_EQ(std::get<DatosMultivariable>(Lee(banco, FormaMultivariable, "a+X").datos).función,
-              "SLN(65)+X");
+              "SLN(97)+X");
     const auto lista = std::get<DatosFunciones>(Lee(banco, FormaRacionales, "X,1\r\n2*X").datos);
     ASSERT_EQ(lista.funciones.size(), 3U);
     EXPECT_EQ(lista.funciones[2].función, "2*X");
