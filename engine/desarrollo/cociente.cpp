@@ -42,15 +42,44 @@ void MeteSigno(TablaSímbolos& tabla, FracciónAbierta& f) {
     f.signoAbajo = false;
 }
 
-// One term for a fraction whose denominator is not a number: what both sides share with a number
-// has gone into the coefficient, and the numerator begins with a positive one.
-Términos DevTérminoCociente(TablaSímbolos& tabla, FracciónAbierta f, Términos numerador) {
+// A numerator as it is written: its content, which has gone into the coefficient, and the rest,
+// which begins with a positive number.
+struct NumeradorEscrito {
+    Coeficiente coeficiente;
+    Términos suma;
+};
+
+// Numbers that the text cuts can have a factor in common again, which goes out too: the smallest of
+// them becomes less each time.
+NumeradorEscrito DevNumeradorEscrito(TablaSímbolos& tabla, Términos numerador) {
     Coeficiente coeficiente = SacaContenido(numerador);
     if (numerador[0].coeficiente.Signo() < 0) {
         coeficiente.CambiaSigno();
         EscalaSuma(numerador, -1);
     }
     numerador = DevFormaFinal(tabla, std::move(numerador));
+    for (Coeficiente otro = SacaContenido(numerador); !otro.EsUno() && numerador.size() > 1;
+         otro = SacaContenido(numerador)) {
+        coeficiente *= otro;
+        numerador = DevFormaFinal(tabla, std::move(numerador));
+    }
+    return {std::move(coeficiente), std::move(numerador)};
+}
+
+// One term for a fraction whose denominator is not a number. A numerator that the text cuts is
+// reduced as it is written, where that cancels something.
+Términos DevTérminoCociente(TablaSímbolos& tabla, FracciónAbierta f, Términos entero) {
+    auto [coeficiente, numerador] = DevNumeradorEscrito(tabla, entero);
+    Términos escrito = numerador;
+    EscalaSuma(escrito, coeficiente);
+    if (escrito != entero) {
+        FracciónAbierta cortada = Abre(tabla, escrito);
+        cortada.abajo = f.abajo;
+        cortada.signoAbajo = f.signoAbajo;
+        Reduce(tabla, cortada);
+        if (cortada.abajo != f.abajo)
+            return Cierra(tabla, cortada);
+    }
     if (numerador.size() == 1) {
         coeficiente *= numerador[0].coeficiente;
         numerador[0].coeficiente = 1;

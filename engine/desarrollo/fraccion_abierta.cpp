@@ -7,6 +7,7 @@
 #include "engine/desarrollo/recursion.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace quiralto {
 namespace {
@@ -32,11 +33,38 @@ bool EntraEnElTérmino(const TablaSímbolos& tabla, const Literal& literal, std:
            EsPotenciaEntera(tabla, literal, i);
 }
 
-// A group that holds one quotient.
-bool EsCocienteEncerrado(const TablaSímbolos& tabla, const Literal& literal, std::size_t i) {
-    const Base& base = tabla.BaseDe(literal[i].símbolo);
-    return base.clase == ClaseBase::Grupo && base.contenido.size() == 1 &&
-           HayCocientes(tabla, base.contenido) && EsPotenciaEntera(tabla, literal, i);
+// What a factor stands for that is a whole power of a group with quotients in it, as a fraction:
+// nothing for another factor, and where its sum with quotients is multiplied out or stays nested.
+std::optional<FracciónAbierta> DevAnidada(TablaSímbolos& tabla, const Literal& literal,
+                                          std::size_t i, int signo) {
+    const Factor factor = literal[i];
+    const Base& base = tabla.BaseDe(factor.símbolo);
+    if (base.clase != ClaseBase::Grupo || !EsPotenciaEntera(tabla, literal, i) ||
+        !HayCocientes(tabla, base.contenido))
+        return std::nullopt;
+    const std::int64_t exponente = signo * factor.exponente.Numerador();
+    const bool esSuma = base.contenido.size() > 1;
+    if (esSuma && exponente > 0)
+        return std::nullopt;
+    const GuardaProfundidad guarda(tabla);
+    FracciónAbierta dentro = SobreUnDenominadorSiCabe(tabla, base.contenido);
+    if (esSuma && dentro.sumas.size() == 1 && dentro.sumas[0].suma == base.contenido)
+        return std::nullopt;
+    return Eleva(tabla, std::move(dentro), exponente);
+}
+
+// Opens the first such factor of a side (1 above, -1 below). Whether there was one.
+bool AbreAnidada(TablaSímbolos& tabla, FracciónAbierta& f, int signo) {
+    if (!tabla.HayCocientes())
+        return false;
+    Literal& lado = signo > 0 ? f.arriba : f.abajo;
+    for (std::size_t i = 0; i < lado.size(); ++i)
+        if (auto anidada = DevAnidada(tabla, lado, i, signo)) {
+            lado.erase(lado.begin() + static_cast<std::ptrdiff_t>(i));
+            f = Multiplica(tabla, std::move(f), *std::move(anidada));
+            return true;
+        }
+    return false;
 }
 
 // What such a factor holds becomes part of the literal part; its number is returned.
@@ -90,6 +118,8 @@ void PonPotencia(FracciónAbierta& f, const Términos& suma, std::int64_t expone
 void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
     if (!tabla.HayBasesReducibles())
         return;
+    if (AbreAnidada(tabla, f, -1) || AbreAnidada(tabla, f, 1))
+        return AbreGrupos(tabla, f);
     for (std::size_t i = 0; i < f.abajo.size();) {
         if (EntraEnElTérmino(tabla, f.abajo, i)) {
             f.coeficiente /= SacaDelLiteral(tabla, f.abajo, i);
@@ -101,15 +131,6 @@ void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
     for (std::size_t i = 0; i < f.arriba.size();) {
         if (EntraEnElTérmino(tabla, f.arriba, i)) {
             f.coeficiente *= SacaDelLiteral(tabla, f.arriba, i);
-            i = 0;
-            continue;
-        }
-        if (EsCocienteEncerrado(tabla, f.arriba, i)) {
-            const Factor factor = f.arriba[i];
-            f.arriba.erase(f.arriba.begin() + static_cast<std::ptrdiff_t>(i));
-            FracciónAbierta cociente = Abre(tabla, tabla.BaseDe(factor.símbolo).contenido);
-            f = Multiplica(tabla, std::move(f),
-                           Eleva(tabla, std::move(cociente), factor.exponente.Numerador()));
             i = 0;
             continue;
         }

@@ -2,9 +2,9 @@
 //
 // - A product multiplies out the power of a group that has become whole (ElevaAEntero): a group's
 //   content is final and holds no such power.
-// - An open fraction is reduced and its groups get their final text (Reduce, DevFormaFinal), and
-// the
-//   final text of an exponent brings that over one denominator (SobreUnDenominador, Cierra): what
+// - An open fraction is reduced and its groups get their final text (Reduce, DevFormaFinal). Groups
+//   with quotients that have become whole powers of it, and exponents as they get their final text,
+//   are brought over one denominator (SobreUnDenominadorSiCabe, SobreUnDenominador, Cierra): what
 //   is inside a quotient, a group or an exponent is smaller than it.
 // Each level holds a GuardaProfundidad, which ends the work with run-time error 14 at 64 of them.
 #pragma once
@@ -19,6 +19,7 @@ Términos ElevaAEntero(TablaSímbolos& tabla, const Términos& base, std::int64_
 void Reduce(TablaSímbolos& tabla, FracciónAbierta& f);
 Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma);
 FracciónAbierta SobreUnDenominador(TablaSímbolos& tabla, const Términos& suma);
+FracciónAbierta SobreUnDenominadorSiCabe(TablaSímbolos& tabla, const Términos& suma);
 Términos Cierra(TablaSímbolos& tabla, const FracciónAbierta& f);
 
 } // namespace quiralto

@@ -168,18 +168,22 @@ Valor ReglasCompleto::Llamada(const DescripciónOperación& función, Valor& arg
     return {.suma = DevLlamada(tabla_, función, suma, texto), .producto = {}};
 }
 
+FracciónAbierta ReglasCompleto::DevFracción(const Lados& lados) const {
+    FracciónAbierta f = DevInversa(tabla_, Abre(tabla_, lados.denominador));
+    if (f.signoAbajo) {
+        f.signoAbajo = false;
+        f.coeficiente.CambiaSigno();
+    }
+    return Multiplica(tabla_, Abre(tabla_, lados.numerador), std::move(f));
+}
+
 // The value as a sum, for an exponent or an argument: a quotient in it is one term.
 Términos ReglasCompleto::ComoSuma(Valor& valor) {
     if (valor.producto) {
         const Lados lados = DevLados(valor);
         if (lados.numerador.empty())
             return {};
-        FracciónAbierta f = DevInversa(tabla_, Abre(tabla_, lados.denominador));
-        if (f.signoAbajo) {
-            f.signoAbajo = false;
-            f.coeficiente.CambiaSigno();
-        }
-        return quiralto::Cierra(tabla_, Multiplica(tabla_, Abre(tabla_, lados.numerador), f));
+        return quiralto::Cierra(tabla_, DevFracción(lados));
     }
     Términos suma = valor.suma.Cerrada();
     EscalaSuma(suma, valor.divisor.Inverso());
@@ -291,13 +295,28 @@ void ReglasCompleto::Iguala(Lados& lados) const {
     }
 }
 
+// Numbers that the text cuts can make one side a multiple of the other: what is written is reduced.
+void ReglasCompleto::DaFormaFinal(Lados& lados) {
+    Iguala(lados);
+    const Lados exactos = lados;
+    lados.numerador = DevFormaFinal(tabla_, std::move(lados.numerador));
+    lados.denominador = DevFormaFinal(tabla_, std::move(lados.denominador));
+    const bool esIgual =
+        lados.numerador == exactos.numerador && lados.denominador == exactos.denominador;
+    if (esIgual || lados.numerador.empty() || EsNúmero(lados.denominador))
+        return;
+    Valor escrito{.suma = {}, .producto = DevFracción(lados)};
+    lados = DevLados(escrito);
+    Iguala(lados);
+    lados.numerador = DevFormaFinal(tabla_, std::move(lados.numerador));
+    lados.denominador = DevFormaFinal(tabla_, std::move(lados.denominador));
+}
+
 std::string ReglasCompleto::Escribe(Valor valor) {
     Lados lados = DevLados(valor);
     if (lados.numerador.empty())
         return "0";
-    Iguala(lados);
-    lados.numerador = DevFormaFinal(tabla_, std::move(lados.numerador));
-    lados.denominador = DevFormaFinal(tabla_, std::move(lados.denominador));
+    DaFormaFinal(lados);
     if (EsNúmero(lados.denominador) && DevNúmero(lados.denominador).EsUno())
         return EscribeSuma(tabla_, lados.numerador);
     return EscribeFracción(tabla_, lados.numerador, lados.denominador);

@@ -46,6 +46,8 @@ private:
     Términos ComoSuma(Valor& valor);
     Valor SinNegativos(Valor valor);
     Lados DevLados(Valor& valor);
+    FracciónAbierta DevFracción(const Lados& lados) const;
+    void DaFormaFinal(Lados& lados);
     void Iguala(Lados& lados) const;
 
     TablaSímbolos& tabla_;

@@ -83,6 +83,27 @@ TEST(Desarrollo, DejaLosCocientesDondeCadaClaseLosQuiere) {
         Comprueba(caso);
 }
 
+TEST(Desarrollo, NoDejaCocientesEnUnGrupoQueSeHaceEntero) {
+    const Caso casos[] = {
+        {"SQR(1/X+1)^-2", "X/(1+X)", "X/(1+X)"},
+        {"SQR(1/X)^-2", "X", "X"},
+        {"1/SQR(1+1/X)/SQR(1+1/X)", "X/(X+1)", "X/(X+1)"},
+        {"3*SQR(1/X+1)^-4+1", "(4*X^2+1+2*X)/(1+2*X+X^2)", "3*X^2/(1+X)^2+1"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
+TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
+    const Caso casos[] = {
+        {"1E20-4/(X+1)", "1E+20", "1E+20-4/(X+1)"},
+        {"(1E20*(X+1)-4)/(X+1)", "1E+20", "1E+20"},
+        {"(1E20*(X+1)-4)/(X+1)^2", "1E+20/(X+1)", "1E+20/(X+1)"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
 TEST(Desarrollo, CalculaOConservaLasPotencias) {
     const Caso casos[] = {
         {"2^3^2", "64", "64"},
