@@ -7,26 +7,74 @@
 #include "engine/lenguaje/sintaxis.h"
 
 #include <algorithm>
+#include <deque>
+#include <map>
 #include <vector>
 
 namespace quiralto {
 namespace {
 
-// A range of the text, inside one group.
+struct Fuente;
+
+// A range of a text, inside one group.
 struct Trozo {
-    std::size_t principio;
-    std::size_t fin;
-    std::size_t grupo;
+    std::size_t principio = 0;
+    std::size_t fin = 0;
+    std::size_t grupo = 0;
+    const Fuente* fuente = nullptr;
 };
+
+// A text to be derived: the whole input, or what a function is rewritten into, in which "u" stands
+// for the function's argument. So a rewritten function takes the place of its row's text, however
+// long the argument is.
+struct Fuente {
+    std::string_view texto;
+    const Lugares* lugares;
+    Trozo argumento; // of no source where the text is the input
+};
+
+std::string_view DevTexto(const Trozo& t) {
+    return t.fuente->texto.substr(t.principio, t.fin - t.principio);
+}
+
+bool ContieneX(const Trozo& t) {
+    return t.fuente->lugares->ContieneX(t.principio, t.fin);
+}
+
+bool EsReescrita(const Fuente& fuente) {
+    return fuente.argumento.fuente != nullptr;
+}
+
+// What the piece is where it is but "u", else the piece.
+Trozo ResuelveArgumento(Trozo t) {
+    while (EsReescrita(*t.fuente) && DevTexto(t) == "u")
+        t = t.fuente->argumento;
+    return t;
+}
+
+// Hands over the text of the piece, part by part, with the arguments in it. The depth is that of
+// the rows' rewriting: a row names only rows above it.
+template <typename Recibe> void RecorreTexto(const Trozo& t, const Recibe& recibe) {
+    std::string_view resto = DevTexto(t);
+    if (EsReescrita(*t.fuente)) {
+        for (std::size_t u = 0; (u = resto.find('u')) != std::string_view::npos;) {
+            recibe(resto.substr(0, u));
+            RecorreTexto(t.fuente->argumento, recibe);
+            resto.remove_prefix(u + 1);
+        }
+    }
+    recibe(resto);
+}
 
 // The rules, applied to marked pieces outer first and left to right. The text is written once,
 // from its beginning to its end: what is still to be written waits on a stack, the next on top.
 class Derivador {
 public:
-    Derivador(Contexto& contexto, std::string_view f) : contexto_(contexto), f_(f), lugares_(f) {}
+    Derivador(Contexto& contexto, std::string_view f)
+        : contexto_(contexto), lugares_(f), f_{.texto = f, .lugares = &lugares_, .argumento = {}} {}
 
     std::string Deriva(const ObservadorDeRondas& observa) {
-        Marca({0, f_.size(), 0});
+        Marca({0, f_.texto.size(), 0, &f_});
         Apila();
         while (!pendientes_.empty()) {
             if (observa && pendientes_.back().marcado)
@@ -52,11 +100,6 @@ private:
         Trozo trozo;
     };
 
-    std::string_view Texto(const Trozo& t) const {
-        return f_.substr(t.principio, t.fin - t.principio);
-    }
-    bool ContieneX(const Trozo& t) const { return lugares_.ContieneX(t.principio, t.fin); }
-
     void Escribe(std::string_view texto) {
         if (escrito_.size() + texto.size() > MáximoTexto)
             throw ErrorEjecución(EspacioDeCadenasInsuficiente);
@@ -67,9 +110,13 @@ private:
     std::string DevRonda() const {
         std::string texto = escrito_;
         for (auto p = pendientes_.rbegin(); p != pendientes_.rend(); ++p) {
-            texto += p->marcado ? "D(" : "";
-            texto += p->marcado ? Texto(p->trozo) : p->literal;
-            texto += p->marcado ? ")D" : "";
+            if (!p->marcado) {
+                texto += p->literal;
+                continue;
+            }
+            texto += "D(";
+            RecorreTexto(p->trozo, [&](std::string_view parte) { texto += parte; });
+            texto += ")D";
         }
         return ResuelveMarcas(texto);
     }
@@ -78,7 +125,9 @@ private:
     void Pon(std::string_view literal) {
         resultado_.push_back({.marcado = false, .literal = literal, .trozo = {}});
     }
-    void Pon(const Trozo& t) { Pon(Texto(t)); }
+    void Pon(const Trozo& t) {
+        RecorreTexto(t, [this](std::string_view parte) { Pon(parte); });
+    }
     void Marca(const Trozo& t) {
         resultado_.push_back({.marcado = true, .literal = {}, .trozo = t});
     }
@@ -100,10 +149,13 @@ private:
     void DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t);
     void DerivaFunción(const Trozo& t);
     void PonPlantilla(std::string_view plantilla, const Trozo& u);
+    void MarcaReescrita(std::string_view texto, const Trozo& u);
 
     Contexto& contexto_;
-    std::string_view f_;
     Lugares lugares_;
+    Fuente f_;
+    std::map<std::string_view, Lugares> lugaresReescritas_; // by the row's text
+    std::deque<Fuente> reescritas_;
     std::string escrito_;
     std::vector<Pendiente> pendientes_;
     std::vector<Pendiente> resultado_;
@@ -112,15 +164,19 @@ private:
 
 void Derivador::DerivaTrozo(Trozo t) {
     for (;;) {
+        t = ResuelveArgumento(t);
+        const Lugares& lugares = *t.fuente->lugares;
         if (t.principio >= t.fin)
             throw ErrorEjecución(ArgumentoInválido);
-        const auto izquierda = [&](std::size_t p) { return Trozo{t.principio, p, t.grupo}; };
-        const auto derecha = [&](std::size_t p) { return Trozo{p + 1, t.fin, t.grupo}; };
+        const auto izquierda = [&](std::size_t p) {
+            return Trozo{t.principio, p, t.grupo, t.fuente};
+        };
+        const auto derecha = [&](std::size_t p) { return Trozo{p + 1, t.fin, t.grupo, t.fuente}; };
         const auto primero = [&](Operación operador) {
-            return lugares_.Primero(t.grupo, operador, t.principio, t.fin);
+            return lugares.Primero(t.grupo, operador, t.principio, t.fin);
         };
         const auto último = [&](Operación operador) {
-            return lugares_.Último(t.grupo, operador, t.principio + 1, t.fin);
+            return lugares.Último(t.grupo, operador, t.principio + 1, t.fin);
         };
         if (const std::size_t p = primero(Operación::Suma); p != t.fin)
             return DerivaSumaOResta(izquierda(p), derecha(p), false);
@@ -130,20 +186,21 @@ void Derivador::DerivaTrozo(Trozo t) {
             return DerivaProducto(izquierda(p), derecha(p));
         if (const std::size_t p = último(Operación::Cociente); p != t.fin)
             return DerivaCociente(izquierda(p), derecha(p));
-        if (f_[t.principio] == '-') {
-            if (!ContieneX(t) && t.fin - t.principio > 1)
+        const std::string_view texto = DevTexto(t);
+        if (texto.front() == '-') {
+            if (!ContieneX(t) && texto.size() > 1)
                 return Pon("0");
             Pon("-");
-            return Marca({t.principio + 1, t.fin, t.grupo});
+            return Marca(derecha(t.principio));
         }
         if (const std::size_t p = primero(Operación::Potencia); p != t.fin)
             return DerivaPotencia(izquierda(p), derecha(p), t);
-        if (f_[t.principio] != '(' || f_[t.fin - 1] != ')')
+        if (texto.front() != '(' || texto.back() != ')')
             break;
-        t = {t.principio + 1, t.fin - 1, lugares_.GrupoEn(t.principio + 1)};
+        t = {t.principio + 1, t.fin - 1, lugares.GrupoEn(t.principio + 1), t.fuente};
     }
-    const char c = f_[t.principio];
-    if (Texto(t) == "X")
+    const char c = DevTexto(t).front();
+    if (DevTexto(t) == "X")
         return Pon("1");
     if (c == '.' || EsDígito(c))
         return Pon("0");
@@ -240,12 +297,13 @@ void Derivador::DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t) {
 }
 
 void Derivador::DerivaFunción(const Trozo& t) {
-    const std::string_view texto = Texto(t);
+    const std::string_view texto = DevTexto(t);
     const DescripciónOperación* const función = BuscaFunción(texto);
     if (función == nullptr || función->familia != Familia::Función || texto.back() != ')')
         throw ErrorEjecución(ArgumentoInválido);
     const std::size_t principio = t.principio + función->nombre.size() + 1;
-    const Trozo u{principio, t.fin - 1, lugares_.GrupoEn(principio)};
+    const Trozo u =
+        ResuelveArgumento({principio, t.fin - 1, t.fuente->lugares->GrupoEn(principio), t.fuente});
     if (!ContieneX(u))
         return Pon("0");
     PonPlantilla(función->derivada, u);
@@ -254,19 +312,32 @@ void Derivador::DerivaFunción(const Trozo& t) {
 // The text of a row's derivative, with the argument in it.
 void Derivador::PonPlantilla(std::string_view plantilla, const Trozo& u) {
     while (!plantilla.empty()) {
-        const std::size_t fin = std::min(plantilla.find_first_of("ud[]"), plantilla.size());
+        const std::size_t fin = std::min(plantilla.find_first_of("udD[]"), plantilla.size());
         if (fin > 0)
             Pon(plantilla.substr(0, fin));
         if (fin == plantilla.size())
             return;
-        if (plantilla[fin] == 'u')
-            Pon(u);
-        else if (plantilla[fin] == 'd')
-            Marca(u);
-        else
-            Pon(plantilla[fin] == '[' ? "\x01" : "\x02");
+        const char c = plantilla[fin];
         plantilla.remove_prefix(fin + 1);
+        if (c == 'u') {
+            Pon(u);
+        } else if (c == 'd') {
+            Marca(u);
+        } else if (c == 'D') {
+            const std::size_t cierra = plantilla.find(")D");
+            MarcaReescrita(plantilla.substr(1, cierra - 1), u);
+            plantilla.remove_prefix(cierra + 2);
+        } else {
+            Pon(c == '[' ? "\x01" : "\x02");
+        }
     }
+}
+
+// Marks what a function of u is rewritten into.
+void Derivador::MarcaReescrita(std::string_view texto, const Trozo& u) {
+    const Lugares& lugares = lugaresReescritas_.try_emplace(texto, texto).first->second;
+    reescritas_.push_back({.texto = texto, .lugares = &lugares, .argumento = u});
+    Marca({0, texto.size(), 0, &reescritas_.back()});
 }
 
 } // namespace

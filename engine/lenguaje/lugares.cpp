@@ -30,7 +30,7 @@ Lugares::Lugares(std::string_view texto) {
     std::size_t lugares = 0;
     for (std::size_t i = 0; i < texto.size(); ++i) {
         const char c = texto[i];
-        if (c == 'X') {
+        if (c == 'X' || c == 'u') {
             equis_.push_back(static_cast<std::uint32_t>(i));
         } else if (c == '(') {
             abiertos.push_back(grupos_.size());

@@ -18,7 +18,8 @@ public:
     // operators and groups.
     explicit Lugares(std::string_view texto);
 
-    // Whether there is an X in a range of the text (the one of "EXP" counts).
+    // Whether there is an X in a range of the text (the one of "EXP" counts), or the "u" that
+    // stands for an argument with an X in the text of a rewritten function.
     bool ContieneX(std::size_t principio, std::size_t fin) const;
 
     // The group whose contents begin at `principio`; group 0 is the whole text.

@@ -63,7 +63,9 @@ struct DescripciónOperación {
     Fallo (*fallo)(double izquierdo, double derecho);
     Oculta oculta;
     // Of a function: the derivative's text, in which "u" stands for the argument, "d" for its
-    // derivative, and "[" and "]" enclose what may turn out to begin with a negative power.
+    // derivative, "D(" and ")D" enclose what is still to be derived, and "[" and "]" what may turn
+    // out to begin with a negative power. An argument stands in parentheses of its own, and what is
+    // still to be derived names only functions of rows above.
     std::string_view derivada;
     std::string_view significado;
 
@@ -132,21 +134,17 @@ inline constexpr auto TablaOperaciones = std::to_array<DescripciónOperación>({
      [](double, double b, Azar*) { return std::sqrt(b); },
      [](double, double b) { return filas::FueraDeDominio(b < 0); }, Oculta::Nada, "d/(2*SQR(u))",
      "square root"},
-    // d(1/COS(u)) and d(1/SIN(u)), a rule further
     {Operación::Sec, "SEC", Familia::Función, 1, 10,
      [](double, double b, Azar*) { return DevSecante(b); },
      [](double, double b) { return filas::EntreCero(std::cos(b) == 0); }, Oculta::Nada,
-     "-1*[-d*SIN(u)]/COS(u)^2", "1 / COS(argument)"},
+     "D(1/COS(u))D", "1 / COS(argument)"},
     {Operación::Cosec, "COSEC", Familia::Función, 1, 2,
      [](double, double b, Azar*) { return DevCosecante(b); },
      [](double, double b) { return filas::EntreCero(std::sin(b) == 0); }, Oculta::Nada,
-     "-1*[d*COS(u)]/SIN(u)^2", "1 / SIN(argument)"},
-    // d(ATN(u/SQR(-u*u+1))) with u in parentheses, by the rules for ATN, quotient, SQR and product
+     "D(1/SIN(u))D", "1 / SIN(argument)"},
     {Operación::Arcsin, "ARCSIN", Familia::Función, 1, 1,
      [](double, double b, Azar*) { return DevArcoseno(b); }, filas::FalloArcoseno, Oculta::Nada,
-     "(SQR(-(u)*(u)+1)*[d]-(u)*[(-(u)*[d]+(u)*[-d])/(2*SQR(-(u)*(u)+1))])/SQR(-(u)*(u)+1)^2"
-     "/(1+((u)/SQR(-(u)*(u)+1))^2)",
-     "ATN(a / SQR(1 - a*a))"},
+     "D(ATN((u)/SQR(-(u)*(u)+1)))D", "ATN(a / SQR(1 - a*a))"},
     {Operación::Sln, "SLN", Familia::Símbolo, 1, 11,
      [](double, double b, Azar* azar) { return DevSln(b, azar); }, filas::NoFalla, Oculta::Nada, "",
      "the argument; a random number in [0, 1) where it is 0"},
@@ -216,6 +214,27 @@ constexpr const DescripciónOperación* BuscaFunción(std::string_view texto) {
             return &fila;
     return nullptr;
 }
+
+// Whether each argument in the row's derivative stands in parentheses, so that no operator in it
+// meets one outside, and no function still to be derived there has its row here or below, so that
+// rewriting ends.
+constexpr bool SeDeriva(const DescripciónOperación& fila) {
+    constexpr auto esLetra = [](char c) { return c >= 'A' && c <= 'Z'; };
+    const std::string_view texto = fila.derivada;
+    const std::size_t marca = std::min(texto.find("D("), texto.size());
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        if (texto[i] == 'u' && (texto[i - 1] != '(' || texto[i + 1] != ')'))
+            return false;
+        const bool empieza = i > marca && esLetra(texto[i]) && !esLetra(texto[i - 1]);
+        if (const auto* const función = empieza ? BuscaFunción(texto.substr(i)) : nullptr;
+            función != nullptr && función >= &fila)
+            return false;
+    }
+    return texto.find(")D") == texto.rfind(")D") &&
+           (marca == texto.size()) == (texto.find(")D") == std::string_view::npos);
+}
+static_assert(std::ranges::all_of(TablaOperaciones, SeDeriva),
+              "a derivative that would be read amiss, or never end");
 
 // Length of the name, with its parenthesis, of a function that may be typed and begins the text;
 // 0 where none does.

@@ -35,6 +35,11 @@ TEST(Deriva, EnseñaElTextoDeCadaRonda) {
          {"D(X*SIN(X))D", "(X*D(SIN(X))D+SIN(X)*D(X)D)", "(X*D(X)D*COS(X)+SIN(X)*D(X)D)",
           "(X*1*COS(X)+SIN(X)*D(X)D)"}},
         {"X-COS(X)", {"D(X-COS(X))D", "(D(X)D-D(COS(X))D)", "(1-D(COS(X))D)", "(1--D(X)D*SIN(X))"}},
+        {"SEC(X)",
+         {"D(SEC(X))D", "D(1/COS(X))D", "-1*D(COS(X))D/COS(X)^2", "-1*-D(X)D*SIN(X)/COS(X)^2"}},
+        {"COSEC(-X)",
+         {"D(COSEC(-X))D", "D(1/SIN(-X))D", "-1*D(SIN(-X))D/SIN(-X)^2",
+          "-1*D(-X)D*COS(-X)/SIN(-X)^2", "-1*-D(X)D*COS(-X)/SIN(-X)^2"}},
     };
     for (const auto& [texto, esperadas] : casos) {
         Banco banco;
@@ -43,6 +48,38 @@ TEST(Deriva, EnseñaElTextoDeCadaRonda) {
             Deriva(banco.contexto, texto, [&](const std::string& r) { rondas.push_back(r); });
         EXPECT_EQ(rondas, esperadas) << texto;
         EXPECT_EQ(derivada, DerivadaDe(texto));
+    }
+}
+
+std::vector<std::string> RondasDe(const std::string& texto) {
+    Banco banco;
+    std::vector<std::string> rondas;
+    Deriva(banco.contexto, texto, [&](const std::string& r) { rondas.push_back(r); });
+    return rondas;
+}
+
+// A function that is rewritten goes on as the derivation of what it is rewritten into.
+TEST(Deriva, DeLoReescritoSigueComoDeLoEscritoAsí) {
+    const struct {
+        const char* texto;
+        const char* reescrito;
+    } casos[] = {
+        {"SEC(X)", "1/COS(X)"},
+        {"SEC(SEC(X))", "1/COS(SEC(X))"},
+        {"SEC(2^-X)", "1/COS(2^-X)"},
+        {"COSEC(-X)", "1/SIN(-X)"},
+        {"COSEC(EXP(2)*X)", "1/SIN(EXP(2)*X)"},
+        {"ARCSIN(X^2)", "ATN((X^2)/SQR(-(X^2)*(X^2)+1))"},
+        {"ARCSIN(-2^X)", "ATN((-2^X)/SQR(-(-2^X)*(-2^X)+1))"},
+        {"ARCSIN(SEC(ARCSIN(X)))",
+         "ATN((SEC(ARCSIN(X)))/SQR(-(SEC(ARCSIN(X)))*(SEC(ARCSIN(X)))+1))"},
+    };
+    for (const auto& [texto, reescrito] : casos) {
+        std::vector<std::string> rondas = RondasDe(texto);
+        ASSERT_EQ(rondas.front(), "D(" + std::string(texto) + ")D");
+        rondas.erase(rondas.begin());
+        EXPECT_EQ(rondas, RondasDe(reescrito)) << texto;
+        EXPECT_EQ(DerivadaDe(texto), DerivadaDe(reescrito));
     }
 }
 
@@ -332,6 +369,10 @@ TEST(Deriva, ConcuerdaConElCocienteDeDiferencias) {
                                     "-X^2",
                                     "-(X+1)^3*-SIN(X)",
                                     "SEC(X/3)",
+                                    "SEC(SEC(X/3)/4)",
+                                    "COSEC(-X)",
+                                    "ARCSIN(X^2/9)",
+                                    "ARCSIN(SEC(X/4)/5)",
                                     "COSEC(X)",
                                     "ARCSIN(X/4)",
                                     "ARCSIN(-X/4)*-X^2",
