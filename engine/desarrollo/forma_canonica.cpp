@@ -11,7 +11,7 @@ bool EsCanónica(const TablaSímbolos& tabla, const Términos& suma) {
     const std::size_t mirados = std::min(suma.size(), MáximosMirados);
     ÍndiceHash índice;
     for (std::uint32_t i = 0; i < mirados; ++i) {
-        const auto& [coeficiente, literal] = suma[i];
+        const Literal& literal = suma[i].literal; // no binding: clang 14 captures none
         const bool enOrden = std::ranges::is_sorted(literal, [&](const Factor& a, const Factor& b) {
             return tabla.Precede(a.símbolo, b.símbolo);
         });
@@ -21,7 +21,7 @@ bool EsCanónica(const TablaSímbolos& tabla, const Términos& suma) {
         const bool repetido = índice.Busca(hash, [&](std::uint32_t k) {
             return suma[k].literal == literal;
         }) != ÍndiceHash::Ninguno;
-        if (coeficiente.EsCero() || !enOrden || hayCero || repetido)
+        if (suma[i].coeficiente.EsCero() || !enOrden || hayCero || repetido)
             return false;
         índice.Añade(hash, i);
     }
