@@ -109,15 +109,14 @@ private:
     // The text as it stands: what is written and, from the top of the stack down, what waits.
     std::string DevRonda() const {
         std::string texto = escrito_;
-        for (auto p = pendientes_.rbegin(); p != pendientes_.rend(); ++p) {
-            if (!p->marcado) {
-                texto += p->literal;
-                continue;
-            }
-            texto += "D(";
-            RecorreTexto(p->trozo, [&](std::string_view parte) { texto += parte; });
-            texto += ")D";
-        }
+        const auto añade = [&](std::string_view parte) { texto += parte; };
+        std::for_each(pendientes_.rbegin(), pendientes_.rend(), [&](const Pendiente& pendiente) {
+            if (!pendiente.marcado)
+                return añade(pendiente.literal);
+            añade("D(");
+            RecorreTexto(pendiente.trozo, añade);
+            añade(")D");
+        });
         return ResuelveMarcas(texto);
     }
 
