@@ -42,6 +42,13 @@ double TalCual(double número) {
     return número;
 }
 
+// Neither 0 nor negative; false: a message has been shown. The class of the ends of a range begins
+// at 2, but its bounds are not what the search for primes relies on.
+bool EsPositivo(Contexto& contexto, std::int64_t entero) {
+    const std::string texto = std::to_string(entero);
+    return NoCero(contexto, texto) && NoNegativo(contexto, texto);
+}
+
 // The absolute value of the one integer on the worksheet, which may not be 0. Fault: run-time error
 // 6 for -2147483648.
 std::optional<std::int32_t> CargaEnteroPositivo(Contexto& contexto, Hoja& hoja) {
@@ -117,9 +124,10 @@ void ResolverDescomposiciónEnFactoresPrimos(Contexto& contexto, Hoja& hoja) {
 }
 
 void ResolverNúmerosPrimos(Contexto& contexto, Hoja& hoja) {
-    // Neither 0 nor a negative number is of this class.
     const auto números = CargaDatos<DatosNúmeros>(contexto, hoja, FormaDosEnteros);
-    if (!números)
+    if (!números || !std::ranges::all_of(*números, [&](double número) {
+            return EsPositivo(contexto, DevEntero(número));
+        }))
         return;
     const auto [desde, hasta] = std::minmax({DevEntero(números->at(0)), DevEntero(números->at(1))});
     if (hasta - desde > MáximaDiferencia) {
