@@ -13,17 +13,16 @@ class Azar {
 public:
     using result_type = std::uint64_t;
 
-    // Every run of the program draws other numbers.
-    Azar() {
-        std::random_device fuente;
-        estado_ = std::uint64_t{fuente()} << 32 | fuente();
+    void Siembra(std::uint64_t semilla) {
+        estado_ = semilla;
+        sembrado_ = true;
     }
-
-    void Siembra(std::uint64_t semilla) { estado_ = semilla; }
 
     static constexpr result_type min() { return 0; }
     static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
     result_type operator()() {
+        if (!sembrado_)
+            SiembraDelSistema();
         std::uint64_t z = estado_ += 0x9E3779B97F4A7C15U;
         z = (z ^ z >> 30) * 0xBF58476D1CE4E5B9U;
         z = (z ^ z >> 27) * 0x94D049BB133111EBU;
@@ -31,7 +30,15 @@ public:
     }
 
 private:
-    std::uint64_t estado_;
+    // Every run of the program draws other numbers. Asking the system takes longer than all else in
+    // making a context, so it is asked by the first draw.
+    void SiembraDelSistema() {
+        std::random_device fuente;
+        Siembra(std::uint64_t{fuente()} << 32 | fuente());
+    }
+
+    std::uint64_t estado_ = 0;
+    bool sembrado_ = false;
 };
 
 } // namespace quiralto

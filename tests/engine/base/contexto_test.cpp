@@ -50,6 +50,12 @@ TEST(Contexto, CadaUnoTieneSuAzar) {
     EXPECT_EQ(EvalúaPrograma(otro.contexto, programa, 0), primero);
 }
 
+TEST(Contexto, SinSemillaCadaUnoSorteaOtrosNúmeros) {
+    Banco uno;
+    Banco otro;
+    EXPECT_NE(uno.contexto.generador(), otro.contexto.generador());
+}
+
 TEST(Contexto, LosProgramasSonValores) {
     Banco banco;
     Programa cuadrado = CompilaExpresión("X^2");
