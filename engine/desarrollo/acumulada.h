@@ -1,5 +1,6 @@
 // What both kinds of expansion compute with: a sum that stays open while additions follow each
 // other, and calls of functions.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/suma_abierta.h"

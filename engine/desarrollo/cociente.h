@@ -5,6 +5,7 @@
 // its numerator, in which sums with quotients are multiplied term by term, each of them an open
 // fraction that is reduced and closed. It ends because what a quotient holds is smaller than it,
 // and is cut short by GuardaProfundidad (64 deep; run-time error 14).
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/fraccion_abierta.h"

@@ -1,4 +1,5 @@
 // Exact division of one sum by another.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

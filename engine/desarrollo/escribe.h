@@ -1,4 +1,5 @@
 // From the values of an expansion to their text.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

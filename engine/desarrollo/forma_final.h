@@ -1,4 +1,5 @@
 // Sums as their texts will read.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

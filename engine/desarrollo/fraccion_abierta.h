@@ -1,5 +1,6 @@
 // A product with a denominator, not yet multiplied out: what a register holds while factors meet,
 // so that equal ones add their exponents and common ones cancel before a sum is made of them.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

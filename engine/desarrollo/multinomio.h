@@ -1,4 +1,5 @@
 // Powers of sums by the multinomial theorem.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

@@ -7,6 +7,7 @@
 // whole power, and a group of several to a whole power from 1 up, is multiplied out.
 //
 // Faults: run-time error 6 for a coefficient beyond the Double range, 14 for too many terms.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

@@ -1,6 +1,7 @@
 // Products of polynomials whose exponents fit together into one machine word, so that multiplying
 // two monomials is one addition (Monagan and Pearce, "Polynomial Division Using Dynamic Arrays,
 // Heaps, and Packed Exponent Vectors", 2007).
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

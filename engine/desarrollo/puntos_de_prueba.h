@@ -5,6 +5,7 @@
 // codes. The second set has ten points, X from (-1, 1), one in each tenth of it; there letters that
 // stand inside a function, a group or an exponent take such values too, because functions saturate
 // at the letters' codes, while letters in products of powers keep their codes.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/simbolos.h"

@@ -1,4 +1,5 @@
 // Collecting terms to the letter, each kind in the place of its first term: a product.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/suma.h"

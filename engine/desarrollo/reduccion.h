@@ -5,6 +5,7 @@
 // divides a group, as often as it does; powers that all terms of a sum or of a group have in common
 // with the other side; functions and groups that are alike by their values. No greatest common
 // divisor is sought beyond these.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/fraccion_abierta.h"

@@ -4,6 +4,7 @@
 // (reduccion.h), negative whole exponents below it. Where the denominator is a number, or one term,
 // the fraction has whole numbers; where it is a sum, its decimals stay as long as their text loses
 // nothing. A quotient inside an exponent or an argument is one fraction likewise.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/acumulada.h"

@@ -13,6 +13,7 @@
 // - A sum without quotients times a quotient is one quotient; one with quotients is multiplied term
 //   by term.
 // - Negative powers stay; SQR, EXP and exponents: see producto.h, simbolos.h, escribe.h.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/acumulada.h"

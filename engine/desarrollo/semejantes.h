@@ -9,6 +9,7 @@
 //    where both round to 0 the point says nothing. Agreement must hold again in the second set of
 //    points; where less than three points of the first say anything, the second must say it alone,
 //    and where it says nothing either, only the letter counts.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/puntos_de_prueba.h"

@@ -1,5 +1,6 @@
 // Splitting the text of an expansion: into terms, a term into coefficient and factors, a factor
 // into base and exponent. Coefficients are read as the engine writes them.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include <string>

@@ -5,6 +5,7 @@
 // knows its argument as a base, of which it is the power to the one half (producto.h). Every text
 // that a base holds is final: its numbers are rounded. Nothing here is nested, so nothing recurs
 // with the depth of the input.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/base/contexto.h"

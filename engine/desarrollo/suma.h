@@ -4,6 +4,7 @@
 // to the 1 times the symbol (X, 1) to the 2. So every exponent in a literal part is a plain number,
 // and equal bases multiply by adding numbers. Symbols are numbered by the table that made them;
 // sums of two tables do not mix.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/numeros/coeficiente.h"

@@ -2,6 +2,7 @@
 // result is that of collecting after each of them. An addition A + B puts first the terms that met
 // a like one, in the order of B, with B's literal part and the sum of the coefficients; then the
 // other terms of A, then those of B.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
 #include "engine/desarrollo/semejantes.h"

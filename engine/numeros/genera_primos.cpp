@@ -1,5 +1,6 @@
 // Writes the primes file: the first CantidadPrimos primes, each as four bytes, the lowest first.
 // Run by the build: genera_primos FILE
+// Tested by fichero_primos_test.cpp.
 
 #include "engine/numeros/primos.h"
 

@@ -1,6 +1,7 @@
 // Magnitudes: natural numbers of any size, words of 64 bits with the lowest first and the highest
 // not 0. Multiplication and division are the schoolbook methods (Knuth, The Art of Computer
 // Programming, vol. 2, 4.3.1), which the sizes that the engine lets grow do not outgrow.
+// Tested by entero_test.cpp.
 #pragma once
 
 #include "engine/numeros/ancho128.h"
