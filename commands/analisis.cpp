@@ -63,13 +63,14 @@ void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
                          const Intervalo& intervalo) {
     hoja.texto += "\r\n\r\n";
     BuscadorDeSoluciones buscador(contexto, CompilaExpresión(f));
-    const auto [a, b, h] = intervalo;
     EscribeTodos(contexto, hoja, intervalo, false, ClaseHallazgo::Solución,
                  "'No se hallaron soluciones", [&](double comienzo) -> std::optional<Punto> {
-                     const std::optional<Solución> r = buscador.Busca(comienzo, b, h);
+                     const std::optional<Solución> r =
+                         buscador.Busca(comienzo, intervalo.b, intervalo.h);
                      if (!r)
                          return std::nullopt;
-                     return Punto{*r, Hallazgo{ClaseHallazgo::Solución, f, a, b, Val(r->texto)}};
+                     return Punto{*r, Hallazgo{ClaseHallazgo::Solución, f, intervalo.a, intervalo.b,
+                                               Val(r->texto)}};
                  });
 }
 
