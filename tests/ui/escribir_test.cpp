@@ -214,6 +214,20 @@ TEST_F(Escribir, SeOfrecenLosNombresMientrasSeTecleaUno) {
     EXPECT_EQ(DevLista(), nullptr);
 }
 
+TEST_F(Escribir, LaListaEstáDebajoDelComienzoDelNombre) {
+    const auto lugar = [this](const char* texto) {
+        Teclea(0, texto);
+        return DevLista() == nullptr ? QPoint() : Caja(0).mapFromGlobal(DevLista()->pos());
+    };
+    const QPoint uno = lugar("s");
+    const QPoint dos = lugar("si");
+    const QPoint otro = lugar("x^2+si");
+    EXPECT_EQ(uno, dos);
+    EXPECT_NEAR(uno.y(), Caja(0).height(), 2);
+    EXPECT_NEAR(otro.x() - uno.x(), Caja(0).fontMetrics().horizontalAdvance(QStringLiteral("X^2+")),
+                4);
+}
+
 TEST_F(Escribir, ElNombreEscogidoSeCompletaYSeSigueEscribiendo) {
     Teclea(0, "x+si");
     ASSERT_NE(DevLista(), nullptr);

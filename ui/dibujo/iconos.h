@@ -11,7 +11,12 @@ enum class Figura { EjeX, EjeY, EjesXY, Gráfica };
 // arrows that point inwards, a lens with a minus.
 QIcon DevIcono(Figura figura, bool ampliar);
 
-// The program's own picture: axes and a curve on paper.
+// The program's picture: the one that the desktop has for its identifier (desktopFileName), so that
+// the window, the menu and the task bar show the same; where there is none, the same one drawn
+// here.
 QIcon DevIconoPrograma();
+
+// The drawn one: axes and two curves on paper.
+QIcon DevIconoDibujado();
 
 } // namespace quiralto

@@ -3,7 +3,6 @@
 #include "ui/acciones/barra.h"
 #include "ui/acciones/menus.h"
 #include "ui/dibujo/fuentes.h"
-#include "ui/dibujo/iconos.h"
 #include "ui/dibujo/texto_qt.h"
 #include "ui/formularios/frm_acerca_de.h"
 #include "ui/formularios/frm_manual.h"
@@ -71,7 +70,6 @@ FrmGráficas::FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Imp
       zoom_(new QLabel(this)), coordenadas_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmGráficas"));
     setWindowTitle(QStringLiteral("Quiralto"));
-    setWindowIcon(DevIconoPrograma());
     CreaCuerpo();
     CreaBarraEstado();
     CreaMenúsYBarra();

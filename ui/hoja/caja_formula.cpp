@@ -8,8 +8,10 @@
 #include <QApplication>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStyle>
 #include <QValidator>
 
+#include <algorithm>
 #include <utility>
 
 namespace quiralto {
@@ -130,11 +132,17 @@ void CajaFormula::Ofrece() {
         nombres_->popup()->hide();
         return;
     }
-    constexpr int AnchoLista = 140;
-    QRect lugar = cursorRect();
-    lugar.setWidth(AnchoLista);
     nombres_->popup()->setCurrentIndex({});
-    nombres_->complete(lugar);
+    nombres_->complete(DevLugarLista(comienzo));
+}
+
+// Under the box, with the names of the list below the beginning that is typed.
+QRect CajaFormula::DevLugarLista(const QString& comienzo) const {
+    constexpr int Ancho = 140;
+    const int margen = nombres_->popup()->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    const int izquierda = cursorRect().center().x() - fontMetrics().horizontalAdvance(comienzo) -
+                          margen - nombres_->popup()->frameWidth();
+    return {std::max(izquierda, 0), 0, Ancho, height()};
 }
 
 void CajaFormula::Escoge(const QString& nombre) {

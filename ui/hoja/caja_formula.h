@@ -52,6 +52,7 @@ private:
     void Ofrece();
     void Escoge(const QString& nombre);
     QString DevComienzoNombre() const;
+    QRect DevLugarLista(const QString& comienzo) const;
 
     Pitido pitido_;
     QCompleter* nombres_ = nullptr; // made when the first one is typed

@@ -1,6 +1,7 @@
 #include "ui/programa/aplicacion.h"
 
 #include "quiralto_version.h"
+#include "ui/dibujo/iconos.h"
 
 #include <QLibraryInfo>
 #include <QTranslator>
@@ -16,6 +17,7 @@ bool PreparaAplicación(QApplication& aplicación) {
     // The toolkit would append it to every title.
     QGuiApplication::setApplicationDisplayName(QLatin1String(""));
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.quiralto.Quiralto"));
+    QGuiApplication::setWindowIcon(DevIconoPrograma()); // of every window, boxes included
     auto* traductor = new QTranslator(&aplicación);
     return traductor->load(QStringLiteral("qtbase_es"),
                            QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
