@@ -46,13 +46,16 @@ TEST(Llamada, LoQueNoSeEntiendeEsUnaLíneaYEstado2) {
     }
 }
 
-// The program itself, with no display or one that nobody serves.
+// The program itself, with no display or one that nobody serves, and no session either, of which
+// the display libraries complain on their own.
 Final Corre(std::vector<std::string> palabras, const std::string& pantalla) {
     palabras.insert(palabras.begin(), QUIRALTO_PROGRAMA);
-    return Ejecuta(
-        {.palabras = std::move(palabras),
-         .entrada = {},
-         .entorno = {{"DISPLAY", pantalla}, {"WAYLAND_DISPLAY", ""}, {"QT_QPA_PLATFORM", ""}}});
+    return Ejecuta({.palabras = std::move(palabras),
+                    .entrada = {},
+                    .entorno = {{"DISPLAY", pantalla},
+                                {"WAYLAND_DISPLAY", ""},
+                                {"XDG_RUNTIME_DIR", ""},
+                                {"QT_QPA_PLATFORM", ""}}});
 }
 
 TEST(Programa, SinPantallaLoDiceEnUnaLíneaYAcabaCon1) {

@@ -4,6 +4,9 @@
 
 #include <QtGlobal>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -55,10 +58,17 @@ bool EsUna(Texto palabra, std::initializer_list<Texto> nombres) {
     return std::ranges::find(nombres, palabra) != nombres.end();
 }
 
+// Standard error as the process was given it; its own is put aside while a display is looked for.
+int ErroresDados() {
+    static const int dados = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
+    return dados;
+}
+
 // Where there is no display the toolkit would end the process with a core.
 void SóloDiLoFatal(QtMsgType tipo, const QMessageLogContext&, const QString&) {
     if (tipo != QtFatalMsg)
         return;
+    DejaDeAtenderPantalla();
     std::fputs("quiralto: no hay pantalla en la que abrir la ventana\n", stderr);
     std::_Exit(1);
 }
@@ -87,10 +97,18 @@ std::optional<Respuesta> RespondeALlamada(int argc, const char* const* argv) {
 
 void AtiendePantalla() {
     qInstallMessageHandler(SóloDiLoFatal);
+    // The libraries of the display systems write their complaints there themselves.
+    if (const int nada = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        ErroresDados() >= 0 && nada >= 0) {
+        dup2(nada, STDERR_FILENO);
+        close(nada);
+    }
 }
 
 void DejaDeAtenderPantalla() {
     qInstallMessageHandler(nullptr);
+    if (ErroresDados() >= 0)
+        dup2(ErroresDados(), STDERR_FILENO);
 }
 
 } // namespace quiralto

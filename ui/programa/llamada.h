@@ -16,7 +16,7 @@ struct Respuesta {
 std::optional<Respuesta> RespondeALlamada(int argc, const char* const* argv);
 
 // From here on until the application stands, a display that cannot be had ends the process with
-// one line and status 1; what else the toolkit says is kept.
+// one line and status 1; what else the toolkit and its libraries say is dropped.
 void AtiendePantalla();
 // The application stands: the toolkit speaks for itself again.
 void DejaDeAtenderPantalla();
