@@ -41,6 +41,20 @@ void Acomoda(const QTextDocument& documento, const QColor& fondo) {
     }
 }
 
+// As wide as the form shows without being scrolled.
+void EncogeImágenes(const QTextDocument& documento) {
+    constexpr qreal Ancho = 760;
+    QTextCursor cursor(documento.find(QString(QChar::ObjectReplacementCharacter)));
+    while (!cursor.isNull()) {
+        QTextImageFormat forma = cursor.charFormat().toImageFormat();
+        if (forma.isValid()) {
+            forma.setWidth(Ancho);
+            cursor.setCharFormat(forma);
+        }
+        cursor = documento.find(QString(QChar::ObjectReplacementCharacter), cursor);
+    }
+}
+
 } // namespace
 
 FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window), texto_(new QTextBrowser(this)) {
@@ -57,6 +71,7 @@ FrmManual::FrmManual(QWidget* padre) : QWidget(padre, Qt::Window), texto_(new QT
     texto_->setSource(QUrl(QStringLiteral("qrc:/manual/manual.md")),
                       QTextDocument::MarkdownResource);
     Acomoda(*texto_->document(), palette().color(QPalette::AlternateBase));
+    EncogeImágenes(*texto_->document());
     texto_->moveCursor(QTextCursor::Start);
     auto* fila = new QHBoxLayout;
     fila->addWidget(etiqueta);
