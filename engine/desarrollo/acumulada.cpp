@@ -78,7 +78,8 @@ void Acumulada::Abre(TablaSímbolos& tabla) {
 
 Términos DevLlamada(TablaSímbolos& tabla, const DescripciónOperación& función,
                     const Términos& argumento, const std::string& texto) {
-    if (función.código == Operación::Exp && !argumento.empty())
+    const bool seEvalúa = tabla.SoloPorLetra() && EsNúmero(argumento);
+    if (función.código == Operación::Exp && !argumento.empty() && !seEvalúa)
         return {{1, DevPotenciaDe(tabla, tabla.DevEuler(), argumento)}};
     std::string llamada(función.nombre);
     ((llamada += '(') += texto) += ')';
@@ -88,7 +89,7 @@ Términos DevLlamada(TablaSímbolos& tabla, const DescripciónOperación& funci�
         if (número.EsEnteroPequeño() && número.EnteroPequeño() >= 1 &&
             número.EnteroPequeño() <= MáximoÍndice)
             return SumaSímbolo(tabla.DevVariable(número.ADouble(), std::move(llamada)));
-    } else if (tabla.SoloPorLetra() && EsNúmero(argumento)) {
+    } else if (seEvalúa) {
         const double valor = DevNúmero(argumento).ADouble();
         if (const Fallo fallo = función.fallo(0, valor); fallo != SinFallo)
             throw ErrorEjecución(fallo);

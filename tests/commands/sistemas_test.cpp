@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <map>
 #include <random>
@@ -156,6 +157,67 @@ TEST(Sistemas, LoLlanoYLoGeneralEscribenLoMismo) {
             return hoja.texto.substr(texto.size());
         };
         EXPECT_EQ(resuelve(llano), resuelve(general)) << llano << "\nseed " << Semilla;
+    }
+}
+
+// A linear expression with products, groups and quotients around its unknowns.
+std::string SorteaLineal(std::mt19937_64& azar, std::size_t n, int hondura) {
+    static constexpr std::array Factores = {"2", "3", ".5", "SQR(4)", "SIN(2)", "EXP(1)", "(1+2)"};
+    const std::string factor = Factores.at(azar() % Factores.size());
+    if (hondura == 0)
+        return factor + "*X(" + std::to_string(1 + azar() % n) + ")";
+    const std::string a = SorteaLineal(azar, n, hondura - 1);
+    switch (azar() % 6) {
+    case 0:
+        return factor + "*(" + a + ")";
+    case 1:
+        return "(" + a + ")*" + factor;
+    case 2:
+        return "(" + a + ")/" + factor;
+    case 3:
+        return "(" + a + "+" + factor + ")";
+    case 4:
+        return "(" + a + "-" + SorteaLineal(azar, n, hondura - 1) + ")";
+    default:
+        return "(" + a + "+" + SorteaLineal(azar, n, hondura - 1) + ")";
+    }
+}
+
+std::string ConValores(std::string texto, const std::vector<double>& valores) {
+    for (std::size_t i = 0; (i = texto.find("X(", i)) != std::string::npos;) {
+        const auto j = static_cast<std::size_t>(Val(texto.substr(i + 2)));
+        texto.replace(i, texto.find(')', i) + 1 - i, "(" + TextoNúmero(valores.at(j - 1)) + ")");
+    }
+    return texto;
+}
+
+TEST(Sistemas, ConProductosGruposYCocientesSeCumplenAlSustituir) {
+    constexpr std::uint64_t Semilla = 140240;
+    for (std::uint64_t i = 0; i < 200; ++i) {
+        std::mt19937_64 azar(Semilla + i);
+        const std::size_t n = 2 + i % 3;
+        std::vector<double> solución;
+        for (std::size_t j = 0; j < n; ++j)
+            solución.push_back(static_cast<double>(azar() % 19) - 9);
+        std::vector<std::string> lados;
+        std::string hoja;
+        for (std::size_t j = 1; j <= n; ++j) {
+            // a heavy diagonal keeps the system well-conditioned
+            lados.push_back("5000*X(" + std::to_string(j) + ")-" +
+                            SorteaLineal(azar, n, 1 + static_cast<int>(i % 4)));
+            hoja +=
+                (j == 1 ? "" : "\r\n") + lados.back() + "=" + ConValores(lados.back(), solución);
+        }
+        SCOPED_TRACE("semilla " + std::to_string(Semilla + i) + ":\n" + hoja);
+        const auto halladas = LeeSoluciones(Resuelve(hoja), std::vector<double>(n, 0));
+        Banco banco;
+        for (std::size_t j = 0; j < n; ++j) {
+            EXPECT_NEAR(halladas[j], solución[j], 1e-6);
+            Programa hallado = CompilaExpresión(ConValores(lados[j], halladas));
+            Programa esperado = CompilaExpresión(ConValores(lados[j], solución));
+            EXPECT_NEAR(EvalúaPrograma(banco.contexto, hallado, 0),
+                        EvalúaPrograma(banco.contexto, esperado, 0), 1e-3);
+        }
     }
 }
 
