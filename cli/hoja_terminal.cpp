@@ -153,12 +153,15 @@ Estado EjecutaOrden(Contexto& contexto, MensajesDeTerminal& mensajes, const Opci
     if (!hoja)
         return MalUso;
     const std::size_t longitud = hoja->texto.size();
-    if (opciones.json)
-        mensajes.Guarda();
-    CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
-    EjecutaInstrucciones(contexto, *hoja, orden->texto);
+    mensajes.Guarda(opciones.json);
+    // A worksheet that has been read is written, whatever becomes of the rest.
+    EjecutaConTrampa(contexto, [&] {
+        CargaPrimos(contexto, DevFicheroPrimos(DevCarpetaPrograma()));
+        EjecutaInstrucciones(contexto, *hoja, orden->texto);
+    });
     const std::string_view añadido = std::string_view(hoja->texto).substr(longitud);
     if (opciones.json) {
+        mensajes.Guarda(false); // what befalls the object itself is not in it
         salida = DevJson(*orden, *hoja, añadido, mensajes.Guardados());
         return SinMensajes;
     }

@@ -7,6 +7,7 @@
 #include "commands/ordenes.h"
 #include "quiralto_version.h"
 
+#include <algorithm>
 #include <csignal>
 #include <iostream>
 #include <unistd.h>
@@ -64,19 +65,28 @@ bool Escribe(const std::string& salida) {
            close(STDOUT_FILENO) == 0;
 }
 
-int Principal(const std::vector<std::string>& palabras) {
+Estado Atiende(Contexto& contexto, MensajesDeTerminal& mensajes,
+               const std::vector<std::string>& palabras, std::string& salida) {
     std::string error;
     const std::optional<Opciones> opciones = LeeOpciones(palabras, error);
     if (!opciones)
         return RechazaUso(error);
+    contexto.DígitosRedondeo = opciones->cifras;
+    return Ejecuta(contexto, mensajes, *opciones, salida);
+}
+
+// All that asks for memory stands in the trap.
+int Principal(int argc, char** argv) {
     MensajesDeTerminal mensajes;
     SinVigilante vigilante;
     Primos tabla{};
     Contexto contexto(mensajes, vigilante, tabla);
-    contexto.DígitosRedondeo = opciones->cifras;
     Estado estado = SinMensajes;
     std::string salida;
-    EjecutaConTrampa(contexto, [&] { estado = Ejecuta(contexto, mensajes, *opciones, salida); });
+    EjecutaConTrampa(contexto, [&] {
+        std::ios::sync_with_stdio(false);
+        estado = Atiende(contexto, mensajes, {argv + std::min(argc, 1), argv + argc}, salida);
+    });
     if (!Escribe(salida)) {
         std::cerr << "quiralto-cli: no se puede escribir en la salida estándar\n";
         return MalUso;
@@ -89,8 +99,5 @@ int Principal(const std::vector<std::string>& palabras) {
 
 int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN); // a closed pipe is a device that takes no more
-    std::ios::sync_with_stdio(false);
-    if (argc < 1)
-        return quiralto::cli::Principal({});
-    return quiralto::cli::Principal({argv + 1, argv + argc});
+    return quiralto::cli::Principal(argc, argv);
 }

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <iostream>
+#include <new>
 
 namespace quiralto::cli {
 
@@ -15,10 +17,29 @@ std::string_view DevPalabra(Icono icono) {
 
 void MensajesDeTerminal::Muestra(Icono icono, std::string_view texto) {
     mostrado_ = true;
-    if (guarda_)
-        guardados_.push_back({icono, ConLf(texto)});
-    else
-        std::cerr << DevPalabra(icono) << ": " << ConLf(texto) << '\n';
+    if (guarda_) {
+        try {
+            guardados_.push_back({icono, ConLf(texto)});
+            return;
+        } catch (const std::bad_alloc&) { // what cannot be kept is told at once
+        }
+    }
+    Escribe(icono, texto);
+}
+
+// Without the library's streams, which may not stand yet when memory runs out.
+void MensajesDeTerminal::Escribe(Icono icono, std::string_view texto) {
+    const auto escribe = [](std::string_view pieza) {
+        std::fwrite(pieza.data(), 1, pieza.size(), stderr);
+    };
+    escribe(DevPalabra(icono));
+    escribe(": ");
+    for (std::size_t i = texto.find("\r\n"); i != std::string_view::npos; i = texto.find("\r\n")) {
+        escribe(texto.substr(0, i));
+        texto.remove_prefix(i + 1);
+    }
+    escribe(texto);
+    escribe("\n");
 }
 
 Estado RechazaUso(std::string esperado) {

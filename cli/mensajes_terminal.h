@@ -15,8 +15,8 @@ enum Estado { SinMensajes = 0, ConMensajes = 1, MalUso = 2 };
 // "exclamación", "crítico" or "mensaje".
 std::string_view DevPalabra(Icono icono);
 
-// Every message box becomes a line (or some lines) on standard error; or it is kept, for whoever
-// writes it elsewhere.
+// Every message box becomes a line (or some lines) on standard error, which asks for no memory; or
+// it is kept, for whoever writes it elsewhere.
 class MensajesDeTerminal : public Mensajes {
 public:
     struct Guardado {
@@ -25,11 +25,13 @@ public:
     };
 
     void Muestra(Icono icono, std::string_view texto) override;
-    void Guarda() { guarda_ = true; }
+    void Guarda(bool guarda) { guarda_ = guarda; }
     const std::vector<Guardado>& Guardados() const { return guardados_; }
     Estado DevEstado() const { return mostrado_ ? ConMensajes : SinMensajes; }
 
 private:
+    static void Escribe(Icono icono, std::string_view texto);
+
     bool guarda_ = false;
     bool mostrado_ = false;
     std::vector<Guardado> guardados_;
