@@ -1,9 +1,12 @@
 // What comes out of the printer, read back from a PDF file.
 
 #include "tests/proceso.h"
+#include "tests/ui/dialogos.h"
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/programa/impresora.h"
 
 #include <QImage>
+#include <QPrintDialog>
 
 #include <algorithm>
 #include <cstdlib>
@@ -162,6 +165,26 @@ TEST_F(Impresión, UnDiscoLlenoSeAvisa) {
         EXPECT_EQ(std::exchange(grabados.mensajes, {}),
                   std::vector{(Mensaje{Icono::Exclamación, "No se puede imprimir"})})
             << acción;
+    }
+}
+
+// The toolkit's own dialog, which the others stand in for.
+TEST(ImpresoraDelSistema, PreguntaConElDiálogoDelSistema) {
+    for (const bool acepta : {false, true}) {
+        QTemporaryDir carpeta;
+        QPrinter impresora(QPrinter::HighResolution);
+        impresora.setOutputFileName(carpeta.filePath(QStringLiteral("salida.pdf")));
+        bool elegida = !acepta;
+        const int vistos =
+            ConDiálogos([&] { elegida = ImpresoraDelSistema().Elige(impresora, nullptr); },
+                        [&](QWidget& diálogo) {
+                            EXPECT_EQ(diálogo.windowTitle(), QStringLiteral("Imprimir"));
+                            EXPECT_TRUE(diálogo.isModal());
+                            auto& suyo = dynamic_cast<QPrintDialog&>(diálogo);
+                            acepta ? suyo.accept() : suyo.reject();
+                        });
+        EXPECT_EQ(vistos, 1);
+        EXPECT_EQ(elegida, acepta);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTimer>
 
 namespace quiralto {
 namespace {
@@ -60,6 +61,21 @@ TEST(VigilanteVentana, TrasUnSegundoMuestraElDiálogoYSeCancela) {
     EXPECT_LT(visto, 2000);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_FALSE(vigilante.EnMarcha());
+}
+
+// Handling events at every question would cost more than the work itself.
+TEST(VigilanteVentana, NoAtiendeALaVentanaEnCadaPregunta) {
+    VigilanteVentana vigilante(0ms);
+    const VigilanteVentana::Guardia guardia(vigilante);
+    int atenciones = 0;
+    QTimer siempre; // comes whenever events are handled
+    QObject::connect(&siempre, &QTimer::timeout, [&] { ++atenciones; });
+    siempre.start(0);
+    QElapsedTimer reloj;
+    reloj.start();
+    EXPECT_TRUE(Trabaja(vigilante, 400ms));
+    EXPECT_GE(atenciones, 2);
+    EXPECT_LE(atenciones, 2 * (2 + reloj.elapsed() / 50)); // the dialog's own showing handles some
 }
 
 // The user may take any time over a message: none of it counts, and no dialog stands beside it.
