@@ -2,7 +2,9 @@
 // names that are offered.
 
 #include "tests/ui/dialogos.h"
+#include "tests/ui/paletas.h"
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/dibujo/contraste.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -295,6 +297,30 @@ TEST_F(Escribir, LoPegadoPierdeSusBlancos) {
 
 TEST_F(Escribir, LosTítulosSonLosSuyosYNadaMás) {
     EXPECT_EQ(QGuiApplication::applicationDisplayName(), QString());
+}
+
+TEST_F(Escribir, UnaCajaErróneaSeLeeEnTodaPaleta) {
+    auto& caja = Busca<QLineEdit>("txtfx_0");
+    const QColor papel = caja.palette().color(QPalette::Base);
+    const auto mira = [&](const char* cuándo) {
+        const QPalette paleta = caja.palette();
+        EXPECT_GE(DevContraste(paleta.color(QPalette::Text), paleta.color(QPalette::Base)),
+                  ContrasteDeTexto)
+            << cuándo;
+        return paleta.color(QPalette::Base);
+    };
+    caja.setFocus();
+    QTest::keyClicks(&caja, QStringLiteral("2X"));
+    EXPECT_NE(mira("clara"), papel);
+    {
+        const ConPaleta oscura(DevPaletaOscura());
+        const QColor errónea = mira("oscura");
+        EXPECT_LT(errónea.lightness(), 128);
+        EXPECT_NE(errónea, DevPaletaOscura().color(QPalette::Base));
+        QTest::keyClick(&caja, Qt::Key_Backspace);
+        EXPECT_EQ(mira("oscura y buena"), DevPaletaOscura().color(QPalette::Base));
+    }
+    EXPECT_EQ(mira("clara otra vez"), papel);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // The worksheet in the window: commands, undo, the refused line, and who can be reached how.
 
+#include "tests/ui/paletas.h"
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/dibujo/contraste.h"
 
 #include <QAccessible>
 #include <QMenu>
@@ -18,6 +20,23 @@ TEST_F(HojaEnVentana, TieneElFocoAlPrincipioYUnaLíneaDeEjemplo) {
     EXPECT_EQ(QApplication::focusWidget(), &txtSalida);
     EXPECT_TRUE(txtSalida.placeholderText().contains(QStringLiteral("X^2-4,-5,5")));
     EXPECT_TRUE(QFontInfo(txtSalida.font()).fixedPitch());
+}
+
+TEST_F(HojaEnVentana, LaLíneaDeEjemploSeLeeEnTodaPaleta) {
+    const auto contraste = [&] {
+        const QPalette paleta = txtSalida.palette();
+        return DevContraste(paleta.color(QPalette::PlaceholderText), paleta.color(QPalette::Base));
+    };
+    EXPECT_GE(contraste(), ContrasteDeTexto);
+    {
+        const ConPaleta oscura(DevPaletaOscura());
+        EXPECT_EQ(txtSalida.palette().color(QPalette::Base),
+                  DevPaletaOscura().color(QPalette::Base));
+        EXPECT_GE(contraste(), ContrasteDeTexto);
+    }
+    const ConPaleta clara(DevPaletaClara());
+    EXPECT_GE(contraste(), ContrasteDeTexto);
+    EXPECT_NE(txtSalida.palette().color(QPalette::PlaceholderText), QColor(Qt::black));
 }
 
 TEST_F(HojaEnVentana, ResuelveLoQueSeTeclea) {

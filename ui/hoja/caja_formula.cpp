@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStringList>
 #include <QStyle>
@@ -81,14 +82,16 @@ void CajaFormula::PonMotivo(const QString& motivo) {
 
 // Mixed from the palette, so that a dark one stays dark.
 void CajaFormula::PonColores() {
-    QPalette paleta = QApplication::palette(this);
+    if (poniendo_)
+        return;
+    const QScopedValueRollback poniendo(poniendo_, true);
+    QPalette paleta; // but for two colours the desktop's
     if (EsErrónea()) {
-        const bool oscura = paleta.color(QPalette::Base).lightness() < 128;
+        const bool oscura = QApplication::palette(this).color(QPalette::Base).lightness() < 128;
         paleta.setColor(QPalette::Base, oscura ? QColor(92, 34, 34) : QColor(255, 224, 224));
         paleta.setColor(QPalette::Text, oscura ? QColor(255, 214, 214) : QColor(140, 0, 0));
     }
-    if (paleta != palette())
-        setPalette(paleta);
+    setPalette(paleta);
 }
 
 void CajaFormula::Reescribe(const QString& texto) {
@@ -172,7 +175,7 @@ bool CajaFormula::event(QEvent* suceso) {
 
 void CajaFormula::changeEvent(QEvent* suceso) {
     QLineEdit::changeEvent(suceso);
-    if (suceso->type() == QEvent::ApplicationPaletteChange)
+    if (suceso->type() == QEvent::PaletteChange)
         PonColores();
 }
 

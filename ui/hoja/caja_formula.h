@@ -58,6 +58,7 @@ private:
     QCompleter* nombres_ = nullptr; // made when the first one is typed
     QString motivo_;
     bool entraConRatón_ = false;
+    bool poniendo_ = false; // the colours
 };
 
 } // namespace quiralto

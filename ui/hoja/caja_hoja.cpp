@@ -1,13 +1,17 @@
 #include "ui/hoja/caja_hoja.h"
 
 #include "commands/hoja.h"
+#include "ui/dibujo/contraste.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
 
+#include <QApplication>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QTextBlock>
 
 #include <algorithm>
+#include <utility>
 
 namespace quiralto {
 
@@ -16,8 +20,26 @@ CajaHoja::CajaHoja(QWidget* padre, Pitido pitido)
     setFont(DevFuenteFija());
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     connect(document(), &QTextDocument::contentsChange, this,
-            [this](int lugar, int, int añadidos) { EligeCorte(lugar, añadidos); });
+            [this](int lugar, int, int añadidos) { AlCambiar(lugar, añadidos); });
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { AlMoverse(); });
     setTabChangesFocus(true);
+    PonColores();
+}
+
+// The desktop's palette may leave the colour of the example line as it is on white paper.
+void CajaHoja::PonColores() {
+    const QColor suave = DevTextoSuave(QApplication::palette(this));
+    if (suave == palette().color(QPalette::PlaceholderText))
+        return;
+    QPalette paleta; // but for one colour the desktop's
+    paleta.setColor(QPalette::PlaceholderText, suave);
+    setPalette(paleta);
+}
+
+void CajaHoja::changeEvent(QEvent* suceso) {
+    QPlainTextEdit::changeEvent(suceso);
+    if (suceso->type() == QEvent::PaletteChange)
+        PonColores();
 }
 
 // Not toPlainText, which turns no-break spaces into blanks: the worksheet is taken as it stands.
@@ -75,7 +97,86 @@ void CajaHoja::EligeCorte(int lugar, int añadidos) {
         }
 }
 
+// Whether the text, written at the cursor, would become part of a comment or result that ends the
+// worksheet.
+bool CajaHoja::VaEnOtraLínea(const QString& texto) const {
+    const QString sinBlancos = texto.trimmed();
+    const QTextCursor cursor = textCursor();
+    if (propia_ || cursor.hasSelection() || !cursor.atEnd() || sinBlancos.isEmpty() ||
+        sinBlancos.startsWith(u'\'') || texto.startsWith(u'\n') || texto.startsWith(u'\r'))
+        return false;
+    const std::string última = DevUtf8(cursor.block().text());
+    return ClasificaLínea(última).clase == ClaseLínea::Comentario || EsDelPrograma(última);
+}
+
+bool CajaHoja::EmpiezaComentario(const QString& texto) const {
+    return texto.startsWith(u'\'') && textCursor().atEnd() &&
+           ClasificaLínea(DevUtf8(textCursor().block().text())).clase == ClaseLínea::Vacía;
+}
+
+// What the user types or composes; `inserta` writes it at the cursor.
+void CajaHoja::Escribe(const QString& texto, const Inserción& inserta) {
+    if (VaEnOtraLínea(texto)) {
+        EscribeEnOtraLínea(inserta);
+        return;
+    }
+    const QScopedValueRollback escribiendo(escribiendo_, true);
+    const bool empieza = EmpiezaComentario(texto);
+    if (salto_ == Salto::Ninguno) {
+        inserta();
+    } else {
+        QTextCursor cursor(document());
+        cursor.joinPreviousEditBlock();
+        inserta();
+        cursor.endEditBlock();
+        salto_ = Salto::Siguiendo;
+    }
+    propia_ = propia_ || empieza;
+}
+
+// One step that can be undone.
+void CajaHoja::EscribeEnOtraLínea(const Inserción& inserta) {
+    const QScopedValueRollback escribiendo(escribiendo_, true);
+    QTextCursor cursor = textCursor();
+    cursor.beginEditBlock();
+    cursor.insertText(QStringLiteral("\n"));
+    setTextCursor(cursor);
+    inserta();
+    cursor.endEditBlock();
+    salto_ = Salto::Recién;
+}
+
+// What was written goes back behind the comment, and what follows with it.
+void CajaHoja::QuitaSalto() {
+    QTextCursor cursor(document()->lastBlock());
+    cursor.deletePreviousChar();
+    propia_ = true;
+}
+
+void CajaHoja::AlCambiar(int lugar, int añadidos) {
+    EligeCorte(lugar, añadidos);
+    const int anteriores = std::exchange(líneas_, document()->blockCount());
+    if (anteriores != líneas_ || (añadidos > 0 && !escribiendo_))
+        propia_ = false;
+    if (!escribiendo_)
+        salto_ = Salto::Ninguno;
+}
+
+void CajaHoja::AlMoverse() {
+    if (escribiendo_)
+        return;
+    salto_ = Salto::Ninguno;
+    if (textCursor().block() != document()->lastBlock())
+        propia_ = false;
+}
+
 void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
+    if (salto_ == Salto::Recién && suceso->key() == Qt::Key_Backspace &&
+        suceso->modifiers() == Qt::NoModifier) {
+        QuitaSalto();
+        suceso->accept();
+        return;
+    }
     const bool intro = suceso->key() == Qt::Key_Return || suceso->key() == Qt::Key_Enter;
     if (intro && suceso->modifiers() != Qt::NoModifier) {
         // Shift+Enter would put in a separator that is no line break for the commands.
@@ -94,23 +195,40 @@ void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
     }
     QKeyEvent filtrado = FiltraSuceso(*suceso, pitido_);
     if (!filtrado.text().isEmpty())
-        QPlainTextEdit::keyPressEvent(&filtrado);
+        Escribe(filtrado.text(), [&] { QPlainTextEdit::keyPressEvent(&filtrado); });
     suceso->accept();
 }
 
 void CajaHoja::inputMethodEvent(QInputMethodEvent* suceso) {
     FiltraSuceso(*suceso, pitido_);
-    QPlainTextEdit::inputMethodEvent(suceso);
+    if (suceso->commitString().isEmpty() || suceso->replacementLength() > 0) {
+        QPlainTextEdit::inputMethodEvent(suceso);
+        return;
+    }
+    if (VaEnOtraLínea(suceso->commitString())) {
+        QInputMethodEvent vacío; // what is being composed leaves the line that it does not go on
+        QPlainTextEdit::inputMethodEvent(&vacío);
+    }
+    Escribe(suceso->commitString(), [&] { QPlainTextEdit::inputMethodEvent(suceso); });
 }
 
 void CajaHoja::insertFromMimeData(const QMimeData* origen) {
     if (isReadOnly() || !origen->hasText())
         return;
-    QTextCursor cursor = textCursor();
-    const QTextBlock bloque = document()->findBlock(cursor.selectionStart());
-    const QString delante = bloque.text().left(cursor.selectionStart() - bloque.position());
-    cursor.insertText(ConviertePegado(delante, origen->text()));
-    setTextCursor(cursor);
+    const auto pega = [&] {
+        QTextCursor cursor = textCursor();
+        const QTextBlock bloque = document()->findBlock(cursor.selectionStart());
+        const QString delante = bloque.text().left(cursor.selectionStart() - bloque.position());
+        cursor.insertText(ConviertePegado(delante, origen->text()));
+        setTextCursor(cursor);
+    };
+    if (VaEnOtraLínea(origen->text())) {
+        EscribeEnOtraLínea(pega);
+    } else {
+        const bool propia = propia_ && !origen->text().contains(u'\n');
+        pega();
+        propia_ = propia;
+    }
     ensureCursorVisible();
 }
 
