@@ -1,9 +1,11 @@
 // A redraw of four functions at 4800 points on 1200x800 logical pixels, in its parts, beside a bare
-// QPainter that draws the same four polylines. The argument is the device pixel ratio.
+// QPainter that draws the same four polylines, one pixel wide, and their segments singly, as wide
+// and as smooth as the curves. The argument is the device pixel ratio.
 
 #include "ui/dibujo/colores.h"
 #include "ui/dibujo/grafica.h"
 #include "ui/dibujo/punto_x.h"
+#include "ui/dibujo/trazo.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -76,6 +78,20 @@ public:
         }
     }
 
+    void PintaSueltas(const std::vector<QPolygonF>& polilíneas) {
+        QPainter pintor(&imagen_);
+        pintor.fillRect(imagen_.rect(), Qt::white);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        for (std::size_t i = 0; i < polilíneas.size(); ++i) {
+            QList<QLineF> segmentos;
+            for (qsizetype k = 1; k < polilíneas[i].size(); ++k)
+                segmentos += QLineF(polilíneas[i][k - 1], polilíneas[i][k]);
+            pintor.setPen(QPen(DevColor(static_cast<int>(i)), GrosorCurva * escala_, Qt::SolidLine,
+                               Qt::FlatCap));
+            pintor.drawLines(segmentos);
+        }
+    }
+
 private:
     Lienzo DevLienzo() const { return {QRectF(imagen_.rect()), static_cast<qreal>(escala_)}; }
 
@@ -105,6 +121,14 @@ void CurvasDesnudas(benchmark::State& estado) {
         banco.PintaDesnudo(polilíneas);
 }
 BENCHMARK(CurvasDesnudas)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+void SegmentosSueltos(benchmark::State& estado) {
+    Banco banco(static_cast<int>(estado.range(0)));
+    const std::vector<QPolygonF> polilíneas = banco.DevPolilíneas();
+    for (auto _ : estado)
+        banco.PintaSueltas(polilíneas);
+}
+BENCHMARK(SegmentosSueltos)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 
 void Curvas(benchmark::State& estado) {
     Banco banco(static_cast<int>(estado.range(0)));

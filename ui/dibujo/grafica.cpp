@@ -7,10 +7,12 @@
 namespace quiralto {
 
 void DibujaCurvas(QPainter& pintor, const Lienzo& lienzo, const Cuadro& cuadro) {
+    Trazos trazos(pintor, lienzo);
     for (int i = 0; i < CantidadFunciones; ++i)
         if (const Curva& curva = cuadro.curvas.at(static_cast<std::size_t>(i)); curva.puntos)
-            DibujaCurva(pintor, lienzo, *curva.puntos, cuadro.método,
-                        curva.atenuada ? DevColorAtenuado(i) : DevColor(i));
+            trazos.Traza(*curva.puntos, cuadro.método,
+                         curva.atenuada ? DevColorAtenuado(i) : DevColor(i));
+    trazos.Pinta();
 }
 
 void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const Cuadro& cuadro) {
