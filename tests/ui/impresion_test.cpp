@@ -115,8 +115,8 @@ TEST_F(Impresión, LaGráficaSeImprimeEnUnaPáginaConSusFuncionesEnColor) {
     for (const std::string& línea : líneas)
         palabras += QString::fromStdString(línea).split(u' ', Qt::SkipEmptyParts);
     // on both axes, the origin once
-    for (const auto& [marca, veces] : {std::pair{"8", 2}, {"-8", 2}, {"4", 2}, {"0", 1}})
-        EXPECT_EQ(palabras.count(QString::fromLatin1(marca)), veces)
+    for (const auto& [marca, veces] : {std::pair{"8", 2}, {"−8", 2}, {"4", 2}, {"0", 1}})
+        EXPECT_EQ(palabras.count(QString::fromUtf8(marca)), veces)
             << marca << " in " << palabras.join(u' ').toStdString();
 
     const Final final = Ejecuta({

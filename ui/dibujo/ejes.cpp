@@ -1,6 +1,7 @@
 #include "ui/dibujo/ejes.h"
 
 #include "ui/dibujo/colores.h"
+#include "ui/dibujo/rotulos.h"
 #include "ui/dibujo/texto_qt.h"
 
 #include <QPainterPath>
@@ -50,83 +51,66 @@ Ejes::Ejes(QPainter& pintor, const Lienzo& lienzo, const Ventana& ventana)
 }
 
 void Ejes::DibujaRejilla() {
-    for (const Marca& marca : enX_)
+    for (const double x : enX_.menores)
+        DibujaVertical(pintor_, lienzo_, DevLugarX(lienzo_, ventana_, x), ColorRejillaMenor);
+    for (const double y : enY_.menores)
+        DibujaHorizontal(pintor_, lienzo_, DevLugarY(lienzo_, ventana_, y), ColorRejillaMenor);
+    for (const Marca& marca : enX_.mayores)
         DibujaVertical(pintor_, lienzo_, DevLugarX(lienzo_, ventana_, marca.valor), ColorRejilla);
-    for (const Marca& marca : enY_)
+    for (const Marca& marca : enY_.mayores)
         DibujaHorizontal(pintor_, lienzo_, DevLugarY(lienzo_, ventana_, marca.valor), ColorRejilla);
 }
 
 void Ejes::Dibuja() {
-    if (EstáEnVista(ejeX_, lienzo_.área.top(), lienzo_.área.bottom()))
+    DibujaPuntas();
+    DibujaMarcas();
+    const Rótulos rótulos = DevRótulos(medidas_, lienzo_, ventana_, enX_.mayores, enY_.mayores);
+    for (const auto* lista : {&rótulos.enX, &rótulos.enY})
+        for (const Rótulo& rótulo : *lista)
+            DibujaRótulo(pintor_, lienzo_, rótulo.base, rótulo.texto);
+    for (const Rótulo& nombre : {rótulos.nombreX, rótulos.nombreY})
+        DibujaRótulo(pintor_, lienzo_, nombre.base, nombre.texto);
+}
+
+// The axes that are in view, with an arrow head where they go on upwards.
+void Ejes::DibujaPuntas() {
+    const qreal g = lienzo_.grosor;
+    const qreal largo = 9 * g;
+    const qreal mitad = 3.5 * g;
+    const QRectF& área = lienzo_.área;
+    pintor_.save();
+    pintor_.setRenderHint(QPainter::Antialiasing);
+    pintor_.setPen(Qt::NoPen);
+    pintor_.setBrush(ColorEje);
+    if (EstáEnVista(ejeX_, área.top(), área.bottom())) {
         DibujaHorizontal(pintor_, lienzo_, ejeX_, ColorEje);
-    if (EstáEnVista(ejeY_, lienzo_.área.left(), lienzo_.área.right()))
-        DibujaVertical(pintor_, lienzo_, ejeY_, ColorEje);
-    RotulaX();
-    RotulaY();
-}
-
-// Long numbers do not fit beside each other at every mark: how many marks a label takes, in
-// the round numbers that marks are made of.
-std::size_t Ejes::DevSalto() const {
-    qreal mayor = 0;
-    for (const Marca& marca : enX_)
-        mayor = std::max(mayor, medidas_.horizontalAdvance(DevQString(marca.texto)));
-    if (enX_.size() < 2)
-        return 1;
-    const qreal separación =
-        DevLugarX(lienzo_, ventana_, enX_[1].valor) - DevLugarX(lienzo_, ventana_, enX_[0].valor);
-    for (const std::size_t salto : {1U, 2U, 5U})
-        if (mayor + 12 * lienzo_.grosor <= separación * static_cast<qreal>(salto))
-            return salto;
-    return 10;
-}
-
-void Ejes::RotulaX() {
-    const qreal g = lienzo_.grosor;
-    const QRectF& área = lienzo_.área;
-    const qreal alto = medidas_.height();
-    // Below the axis, or at the border next to it where it is out of view or close to it.
-    const qreal eje = std::clamp(ejeX_, área.top(), área.bottom() - g);
-    const qreal base = eje + 6 * g + alto <= área.bottom() ? eje + 4 * g + medidas_.ascent()
-                                                           : eje - 5 * g - medidas_.descent();
-    const std::size_t salto = DevSalto();
-    for (std::size_t i = 0; i < enX_.size(); ++i) {
-        const qreal x = std::floor(DevLugarX(lienzo_, ventana_, enX_[i].valor));
-        pintor_.fillRect(QRectF(x, eje - 3 * g, g, 7 * g), ColorEje);
-        if (i % salto != 0)
-            continue;
-        const QString texto = DevQString(enX_[i].texto);
-        const qreal ancho = medidas_.horizontalAdvance(texto);
-        // The axis itself would run through a label below it.
-        const bool enElEje = std::fabs(x - ejeY_) < 1 + g;
-        const qreal izquierda = enElEje ? x - ancho - 4 * g : x - ancho / 2;
-        if (izquierda < área.left() || izquierda + ancho > área.right())
-            continue;
-        DibujaRótulo(pintor_, lienzo_, {izquierda, base}, texto);
-        ocupados_.emplace_back(izquierda - 3 * g, base - medidas_.ascent(), ancho + 6 * g, alto);
+        const qreal y = std::floor(ejeX_) + g / 2;
+        pintor_.drawPolygon(QPolygonF{{área.right(), y},
+                                      {área.right() - largo, y - mitad},
+                                      {área.right() - largo, y + mitad}});
     }
+    if (EstáEnVista(ejeY_, área.left(), área.right())) {
+        DibujaVertical(pintor_, lienzo_, ejeY_, ColorEje);
+        const qreal x = std::floor(ejeY_) + g / 2;
+        pintor_.drawPolygon(QPolygonF{
+            {x, área.top()}, {x - mitad, área.top() + largo}, {x + mitad, área.top() + largo}});
+    }
+    pintor_.restore();
 }
 
-void Ejes::RotulaY() {
+// At the axis, or at the border next to it.
+void Ejes::DibujaMarcas() {
     const qreal g = lienzo_.grosor;
     const QRectF& área = lienzo_.área;
-    const qreal eje = std::clamp(ejeY_, área.left(), área.right() - g);
-    const bool origenRotulado = EstáEnVista(ejeX_, área.top(), área.bottom()) &&
-                                EstáEnVista(ejeY_, área.left(), área.right());
-    for (const Marca& marca : enY_) {
+    const qreal alto = std::floor(std::clamp(ejeX_, área.top(), área.bottom() - g));
+    const qreal largo = std::floor(std::clamp(ejeY_, área.left(), área.right() - g));
+    for (const Marca& marca : enX_.mayores) {
+        const qreal x = std::floor(DevLugarX(lienzo_, ventana_, marca.valor));
+        pintor_.fillRect(QRectF(x, alto - 3 * g, g, 7 * g), ColorEje);
+    }
+    for (const Marca& marca : enY_.mayores) {
         const qreal y = std::floor(DevLugarY(lienzo_, ventana_, marca.valor));
-        pintor_.fillRect(QRectF(eje - 3 * g, y, 7 * g, g), ColorEje);
-        if (marca.valor == 0 && origenRotulado)
-            continue;
-        const QString texto = DevQString(marca.texto);
-        const qreal ancho = medidas_.horizontalAdvance(texto);
-        const qreal junto = eje - 6 * g - ancho;
-        const QPointF lugar(junto >= área.left() ? junto : eje + 7 * g,
-                            y + medidas_.ascent() / 2 - g);
-        const QRectF marco(lugar.x(), lugar.y() - medidas_.ascent(), ancho, medidas_.height());
-        if (área.contains(marco) &&
-            std::ranges::none_of(ocupados_, [&](const QRectF& o) { return o.intersects(marco); }))
-            DibujaRótulo(pintor_, lienzo_, lugar, texto);
+        pintor_.fillRect(QRectF(largo - 3 * g, y, 7 * g, g), ColorEje);
     }
 }
 

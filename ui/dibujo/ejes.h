@@ -1,4 +1,5 @@
-// The axes of the graph: grid, axis lines, unit marks and their labels.
+// The axes of the graph: a grid of two finenesses, axis lines with their arrow heads and names,
+// unit marks and their labels.
 #pragma once
 
 #include "ui/dibujo/lienzo.h"
@@ -20,19 +21,17 @@ public:
     void Dibuja();
 
 private:
-    std::size_t DevSalto() const;
-    void RotulaX();
-    void RotulaY();
+    void DibujaPuntas();
+    void DibujaMarcas();
 
     QPainter& pintor_;
     const Lienzo& lienzo_;
     const Ventana& ventana_;
     QFontMetricsF medidas_;
-    std::vector<Marca> enX_;
-    std::vector<Marca> enY_;
-    std::vector<QRectF> ocupados_; // by the labels of the horizontal axis
-    qreal ejeX_;                   // the height of the horizontal axis
-    qreal ejeY_;                   // the place of the vertical one
+    MarcasEje enX_;
+    MarcasEje enY_;
+    qreal ejeX_; // the height of the horizontal axis
+    qreal ejeY_; // the place of the vertical one
 };
 
 } // namespace quiralto

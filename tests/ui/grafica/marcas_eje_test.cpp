@@ -13,7 +13,7 @@ namespace {
 
 std::vector<std::string> DevTextos(double mínimo, double máximo, double píxeles) {
     std::vector<std::string> textos;
-    for (const Marca& marca : DevMarcas(mínimo, máximo, píxeles))
+    for (const Marca& marca : DevMarcas(mínimo, máximo, píxeles).mayores)
         textos.push_back(marca.texto);
     return textos;
 }
@@ -22,12 +22,54 @@ using Textos = std::vector<std::string>;
 
 TEST(MarcasEje, EstánEnValoresRedondos) {
     EXPECT_EQ(DevTextos(-10, 10, 700),
-              (Textos{"-10", "-8", "-6", "-4", "-2", "0", "2", "4", "6", "8", "10"}));
-    EXPECT_EQ(DevTextos(-1, 1, 400), (Textos{"-1", "-.5", "0", ".5", "1"}));
-    EXPECT_EQ(DevTextos(0, 100, 500), (Textos{"0", "20", "40", "60", "80", "100"}));
+              (Textos{"−10", "−8", "−6", "−4", "−2", "0", "2", "4", "6", "8", "10"}));
+    EXPECT_EQ(DevTextos(-1, 1, 500),
+              (Textos{"−1", "−0.8", "−0.6", "−0.4", "−0.2", "0", "0.2", "0.4", "0.6", "0.8", "1"}));
+    EXPECT_EQ(DevTextos(0, 100, 700),
+              (Textos{"0", "10", "20", "30", "40", "50", "60", "70", "80", "90", "100"}));
+    EXPECT_EQ(DevTextos(-10, 10, 200),
+              (Textos{"−10", "−8", "−6", "−4", "−2", "0", "2", "4", "6", "8", "10"}));
     EXPECT_EQ(DevTextos(1000000.1, 1000000.13, 250),
-              (Textos{"1000000.1", "1000000.11", "1000000.12", "1000000.13"}));
-    EXPECT_EQ(DevTextos(0, 3e20, 300), (Textos{"0", "1E+20", "2E+20", "3E+20"}));
+              (Textos{"1000000.1", "1000000.105", "1000000.11", "1000000.115", "1000000.12",
+                      "1000000.125", "1000000.13"}));
+}
+
+// One form along the axis.
+TEST(MarcasEje, LosTextosSonCortosEnVentanasEnormesYDiminutas) {
+    EXPECT_EQ(DevTextos(0, 3e20, 600),
+              (Textos{"0", "5E19", "1E20", "1.5E20", "2E20", "2.5E20", "3E20"}));
+    EXPECT_EQ(DevTextos(-1e13, 1e13, 800), (Textos{"−1E13", "−8E12", "−6E12", "−4E12", "−2E12", "0",
+                                                   "2E12", "4E12", "6E12", "8E12", "1E13"}));
+    EXPECT_EQ(DevTextos(0, 5e-8, 500), (Textos{"0", "5E−9", "1E−8", "1.5E−8", "2E−8", "2.5E−8",
+                                               "3E−8", "3.5E−8", "4E−8", "4.5E−8", "5E−8"}));
+    EXPECT_EQ(DevTextos(-5e-5, 5e-5, 700), (Textos{"−5E−5", "−4E−5", "−3E−5", "−2E−5", "−1E−5", "0",
+                                                   "1E−5", "2E−5", "3E−5", "4E−5", "5E−5"}));
+    EXPECT_EQ(DevTextos(0, 1000000, 300),
+              (Textos{"0", "100000", "200000", "300000", "400000", "500000", "600000", "700000",
+                      "800000", "900000", "1000000"}));
+    EXPECT_EQ(DevTextos(0, 0.01, 600), (Textos{"0", "0.001", "0.002", "0.003", "0.004", "0.005",
+                                               "0.006", "0.007", "0.008", "0.009", "0.01"}));
+}
+
+TEST(MarcasEje, LasLíneasFinasPartenElPasoEnCuatroOCinco) {
+    const struct {
+        double máximo;
+        double paso;
+        int partes;
+    } casos[] = {{10, 1, 5}, {20, 2, 4}, {50, 5, 5}};
+    for (const auto& caso : casos) {
+        const MarcasEje marcas = DevMarcas(0, caso.máximo, 800);
+        ASSERT_EQ(marcas.mayores.size(), 11U);
+        EXPECT_EQ(marcas.mayores[1].valor, caso.paso);
+        ASSERT_EQ(marcas.menores.size(), static_cast<std::size_t>(10 * caso.partes + 1));
+        EXPECT_DOUBLE_EQ(marcas.menores[1], caso.paso / caso.partes);
+    }
+}
+
+double ValorLeído(std::string texto) {
+    for (std::size_t i = texto.find("−"); i != std::string::npos; i = texto.find("−"))
+        texto.replace(i, std::string("−").size(), "-");
+    return std::stod(texto);
 }
 
 // 1, 2 and 5 lie up to 2.5 times apart, so 60 to 110 cannot always be met; it is never far off.
@@ -39,20 +81,22 @@ TEST(MarcasEje, EstánSeparadasYSonDistintasConCualquierZoom) {
         const double ancho = std::pow(10, exponente(azar));
         // as far from 0 as a view that can be sampled lies
         const double mínimo = fracción(azar) * std::pow(10, 11 * std::fabs(fracción(azar))) * ancho;
-        const double píxeles = 300 + 900 * std::fabs(fracción(azar));
+        const double píxeles = 150 + 1050 * std::fabs(fracción(azar));
         const double máximo = mínimo + ancho;
-        const std::vector<Marca> marcas = DevMarcas(mínimo, máximo, píxeles);
-        ASSERT_GE(marcas.size(), 2U) << mínimo << ' ' << máximo;
+        const std::vector<Marca> marcas = DevMarcas(mínimo, máximo, píxeles).mayores;
+        ASSERT_GE(marcas.size(), 5U) << mínimo << ' ' << máximo;
         std::set<std::string> textos;
         for (std::size_t k = 0; k < marcas.size(); ++k) {
             ASSERT_TRUE(textos.insert(marcas[k].texto).second)
                 << marcas[k].texto << " from " << mínimo << " to " << máximo;
+            ASSERT_NEAR(ValorLeído(marcas[k].texto), marcas[k].valor,
+                        1e-13 * std::fabs(marcas[k].valor));
             if (k == 0)
                 continue;
             const double separación =
                 (marcas[k].valor - marcas[k - 1].valor) / (máximo - mínimo) * píxeles;
-            ASSERT_GT(separación, 50) << mínimo << ' ' << máximo;
-            ASSERT_LT(separación, 132) << mínimo << ' ' << máximo;
+            ASSERT_GT(separación, std::min(48.0, píxeles / 15)) << mínimo << ' ' << máximo;
+            ASSERT_LT(separación, std::min(132.0, píxeles / 4)) << mínimo << ' ' << máximo;
         }
     }
 }
