@@ -1,7 +1,7 @@
 #include "commands/sistemas.h"
 
 #include "commands/formas.h"
-#include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/numero_escrito.h"
 #include "engine/lenguaje/operaciones.h"
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/lenguaje/termino_texto.h"

@@ -1,7 +1,7 @@
 #include "engine/desarrollo/acumulada.h"
 
 #include "engine/base/fallos.h"
-#include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/numero_escrito.h"
 #include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto.h"
 #include "engine/lenguaje/aritmetica.h"
@@ -32,8 +32,10 @@ std::optional<Términos> ElevaUno(TablaSímbolos& tabla, const Términos& base,
         Literal potencia = literal;
         for (Factor& factor : potencia)
             factor.exponente = factor.exponente * Exponente(exponente);
-        if (std::ranges::all_of(
-                potencia, [&](const Factor& f) { return EsDecimal(tabla, f.exponente.Valor()); }))
+        if (std::ranges::all_of(potencia, [&](const Factor& f) {
+                const Coeficiente valor = f.exponente.Valor();
+                return DevEscritoDentro(tabla, valor) == valor;
+            }))
             return Términos{{1, potencia}};
         return std::nullopt;
     }

@@ -14,20 +14,6 @@
 namespace quiralto {
 namespace {
 
-Términos ElevaConCocientes(TablaSímbolos& tabla, const Términos& base, std::int64_t n) {
-    if (!HayCocientes(tabla, base))
-        return ElevaAEntero(tabla, base, n);
-    Términos potencia = SumaNúmero(1);
-    Términos cuadrado = base;
-    for (; n > 0; n /= 2) {
-        if (n % 2 == 1)
-            potencia = MultiplicaConCocientes(tabla, potencia, cuadrado);
-        if (n > 1)
-            cuadrado = MultiplicaConCocientes(tabla, cuadrado, cuadrado);
-    }
-    return potencia;
-}
-
 // A lone group below whose sign is the fraction's takes it.
 void MeteSigno(TablaSímbolos& tabla, FracciónAbierta& f) {
     if (!f.signoAbajo || f.abajo.size() != 1 || f.abajo[0].exponente != 1 ||
@@ -57,18 +43,24 @@ NumeradorEscrito DevNumeradorEscrito(TablaSímbolos& tabla, Términos numerador)
         coeficiente.CambiaSigno();
         EscalaSuma(numerador, -1);
     }
-    numerador = DevFormaFinal(tabla, std::move(numerador));
+    numerador = DevFormaInterior(tabla, std::move(numerador));
     for (Coeficiente otro = SacaContenido(numerador); !otro.EsUno() && numerador.size() > 1;
          otro = SacaContenido(numerador)) {
         coeficiente *= otro;
-        numerador = DevFormaFinal(tabla, std::move(numerador));
+        numerador = DevFormaInterior(tabla, std::move(numerador));
     }
     return {std::move(coeficiente), std::move(numerador)};
 }
 
 // One term for a fraction whose denominator is not a number. A numerator that the text cuts is
 // reduced as it is written, where that cancels something.
-Términos DevTérminoCociente(TablaSímbolos& tabla, FracciónAbierta f, Términos entero) {
+Términos DevTérminoCociente(TablaSímbolos& tabla, FracciónAbierta f, const Términos& entero) {
+    const Términos abajo = DevAsentada(tabla, {{1, f.abajo}});
+    if (abajo.size() != 1 || abajo[0].literal != f.abajo) {
+        f.abajo.clear();
+        f = Multiplica(tabla, std::move(f), DevInversa(tabla, Abre(tabla, abajo)));
+        return Cierra(tabla, f);
+    }
     auto [coeficiente, numerador] = DevNumeradorEscrito(tabla, entero);
     Términos escrito = numerador;
     EscalaSuma(escrito, coeficiente);
@@ -97,13 +89,14 @@ Términos DevTérminoCociente(TablaSímbolos& tabla, FracciónAbierta f, Términ
 // Terms that hold a whole power of a group with quotients in it, opened.
 Términos ReabreGrupos(TablaSímbolos& tabla, Términos suma) {
     const auto porAbrir = [&](const Término& t) {
-        return std::ranges::any_of(t.literal, [&](const Factor& f) {
-            const Base& base = tabla.BaseDe(f.símbolo);
-            return base.clase == ClaseBase::Grupo && tabla.EsLlano(f.símbolo) &&
-                   f.exponente.EsEntero() &&
-                   (f.exponente.Signo() > 0 || base.contenido.size() == 1) &&
-                   HayCocientes(tabla, base.contenido);
-        });
+        for (std::size_t i = 0; i < t.literal.size(); ++i) {
+            const Base& base = tabla.BaseDe(t.literal[i].símbolo);
+            if (base.clase == ClaseBase::Grupo && EsPotenciaEntera(tabla, t.literal, i) &&
+                (t.literal[i].exponente.Signo() > 0 || base.contenido.size() == 1) &&
+                HayCocientes(tabla, base.contenido))
+                return true;
+        }
+        return false;
     };
     if (!tabla.HayCocientes() || !std::ranges::any_of(suma, porAbrir))
         return suma;
@@ -116,6 +109,20 @@ Términos ReabreGrupos(TablaSímbolos& tabla, Términos suma) {
             abierta.Añade(término.coeficiente, término.literal);
     }
     return abierta.Toma();
+}
+
+Términos ElevaConCocientes(TablaSímbolos& tabla, const Términos& base, std::int64_t n) {
+    if (!HayCocientes(tabla, base))
+        return ReabreGrupos(tabla, ElevaAEntero(tabla, base, n));
+    Términos potencia = SumaNúmero(1);
+    Términos cuadrado = base;
+    for (; n > 0; n /= 2) {
+        if (n % 2 == 1)
+            potencia = MultiplicaConCocientes(tabla, potencia, cuadrado);
+        if (n > 1)
+            cuadrado = MultiplicaConCocientes(tabla, cuadrado, cuadrado);
+    }
+    return potencia;
 }
 
 // The exponents that a denominator must have to be divided by both: of every symbol the greater.
@@ -224,6 +231,15 @@ Términos Cierra(TablaSímbolos& tabla, const FracciónAbierta& f) {
     FundeSemejantes(tabla, numerador);
     if (numerador.empty())
         return {};
+    if (HayCocientes(tabla, numerador)) { // of roots that have become whole
+        FracciónAbierta una = SobreUnDenominadorSiCabe(tabla, numerador);
+        if (!una.abajo.empty()) {
+            FracciónAbierta divisor;
+            divisor.abajo = f.abajo;
+            divisor.signoAbajo = f.signoAbajo;
+            return Cierra(tabla, Multiplica(tabla, std::move(una), std::move(divisor)));
+        }
+    }
     if (f.sumas.size() + (f.arriba.empty() ? 0U : 1U) < 2)
         return DevTérminoCociente(tabla, f, std::move(numerador));
     // Multiplied out, its factors can have met in one that cancels.

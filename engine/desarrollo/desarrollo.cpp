@@ -12,28 +12,50 @@
 namespace quiralto {
 namespace {
 
+template <typename Reglas>
+typename Reglas::Valor Opera(Reglas& reglas, const DescripciónOperación& operación,
+                             typename Reglas::Valor a, typename Reglas::Valor b) {
+    switch (operación.familia) {
+    case Familia::Suma:
+        return reglas.Suma(std::move(a), std::move(b), 1);
+    case Familia::Resta:
+        return reglas.Suma(std::move(a), std::move(b), -1);
+    case Familia::Producto:
+        return reglas.Producto(a, b);
+    case Familia::Cociente:
+        return reglas.Cociente(a, b);
+    case Familia::Potencia:
+        return reglas.Potencia(a, b);
+    case Familia::Función:
+    case Familia::Símbolo:
+        break;
+    }
+    return reglas.Llamada(operación, b);
+}
+
 // Runs the instructions over the values of the rules. Every register but X is an operand of at
 // most one instruction, so values are moved out of it.
 template <typename Reglas>
-typename Reglas::Valor Ejecuta(Reglas& reglas, Contexto& contexto, const Programa& programa) {
+typename Reglas::Valor Ejecuta(TablaSímbolos& tabla, Reglas& reglas, const Programa& programa) {
     using Valor = typename Reglas::Valor;
     std::vector<std::optional<Valor>> registros(programa.registros.size());
     const auto toma = [&](std::int16_t registro) -> Valor {
         const auto r = static_cast<std::size_t>(registro);
         if (r == 0)
-            return reglas.DeX();
+            return {.suma = SumaSímbolo(tabla.DevVariable('X', "X")), .producto = {}};
         if (!registros[r])
-            return reglas.DeNúmero(programa.registros[r]);
+            return {.suma = SumaNúmero(Coeficiente::DesdeDouble(programa.registros[r])),
+                    .producto = {}};
         Valor valor = std::move(*registros[r]);
         registros[r].reset();
         return valor;
     };
     for (const Instrucción& instrucción : programa.instrucciones) {
-        contexto.Vigila();
+        tabla.contexto.Vigila();
         const DescripciónOperación& operación = *BuscaOperación(instrucción.código);
         Valor izquierdo = operación.EsBinaria() ? toma(instrucción.izquierdo) : Valor{};
         registros[static_cast<std::size_t>(instrucción.resultado)] =
-            reglas.Opera(operación, std::move(izquierdo), toma(instrucción.derecho));
+            Opera(reglas, operación, std::move(izquierdo), toma(instrucción.derecho));
     }
     return std::move(*registros[programa.Resultado()]);
 }
@@ -61,18 +83,18 @@ Términos LeeSuma(TablaSímbolos& tabla, std::string_view texto) {
 std::string DesarrollaCompleto(Contexto& contexto, const Programa& programa) {
     TablaSímbolos tabla(contexto, ClaseDesarrollo::Completo);
     ReglasCompleto reglas(tabla);
-    return reglas.Escribe(Ejecuta(reglas, contexto, programa));
+    return reglas.Escribe(Ejecuta(tabla, reglas, programa));
 }
 
 std::string DesarrollaSimplificado(Contexto& contexto, const Programa& programa) {
     TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
     ReglasSimplificado reglas(tabla);
-    return reglas.Escribe(Ejecuta(reglas, contexto, programa));
+    return reglas.Escribe(Ejecuta(tabla, reglas, programa));
 }
 
 Términos DesarrollaEnTérminos(TablaSímbolos& tabla, const Programa& programa) {
     ReglasSimplificado reglas(tabla);
-    auto valor = Ejecuta(reglas, tabla.contexto, programa);
+    auto valor = Ejecuta(tabla, reglas, programa);
     return reglas.ComoSuma(valor);
 }
 

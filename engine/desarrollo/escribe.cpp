@@ -1,25 +1,18 @@
 #include "engine/desarrollo/escribe.h"
 
+#include "engine/desarrollo/escribe_dentro.h"
+#include "engine/desarrollo/numero_escrito.h"
 #include "engine/lenguaje/termino_texto.h"
 
 #include <algorithm>
-#include <charconv>
-#include <numeric>
 #include <span>
 
 namespace quiralto {
 namespace {
 
-constexpr std::int64_t MáximoEscrito = 1'000'000'000'000'000; // whole numbers of 15 digits
-
-bool SeEscribeEntero(const Entero& valor) {
-    return valor.EsPequeño() && valor.Pequeño() < MáximoEscrito && valor.Pequeño() > -MáximoEscrito;
-}
-
 class Escritor {
 public:
-    explicit Escritor(const TablaSímbolos& tabla)
-        : tabla_(tabla), dígitos_(tabla.contexto.DígitosRedondeo) {}
+    explicit Escritor(const TablaSímbolos& tabla) : tabla_(tabla) {}
 
     void EscribeSuma(const Términos& suma);
     void EscribeLiteral(std::string& destino, const Literal& literal) const;
@@ -34,17 +27,11 @@ private:
     void EscribeCociente(const Término& término, const Base& cociente, std::size_t principio);
     void EscribeDenominador(const Coeficiente& número, const Literal& literal);
     bool SePliega(const Coeficiente& número, const Literal& literal) const;
-    void EscribeExponente(std::string& destino, std::span<const Factor> factores) const;
-    void EscribeExponente(std::string& destino, const Exponente& exponente) const;
-    void EscribeSumaExponente(std::string& destino, std::span<const Factor> factores) const;
-    std::int64_t DevDenominadorComún(std::span<const Factor> factores) const;
-    bool EsSimple(const Literal& literal) const;
     bool EsUnaBase(const Literal& literal) const {
         return !literal.empty() && FinDeBase(tabla_, literal, 0) == literal.size();
     }
 
     const TablaSímbolos& tabla_;
-    int dígitos_;
     std::string literal_; // of the term at hand
 };
 
@@ -67,13 +54,12 @@ void Escritor::EscribeTérmino(const Término& término, std::size_t principio) 
         if (const Base* const cociente = DevCocienteDe(tabla_, término.literal);
             cociente != nullptr && término.literal[0].exponente == 1)
             return EscribeCociente(término, *cociente, principio);
-    const Coeficiente escrito = término.coeficiente.Escrito(dígitos_);
-    if (escrito.EsCero() && !término.coeficiente.EsCero())
+    if (!EsDecimal(tabla_, término.coeficiente))
         return EscribeCociente(DevFracciónEscrita(término.coeficiente), {1, término.literal}, {},
                                principio);
     literal_.clear();
     EscribeLiteral(literal_, término.literal);
-    quiralto::EscribeTérmino(texto, escrito.ADouble(), literal_, principio);
+    quiralto::EscribeTérmino(texto, término.coeficiente.ADouble(), literal_, principio);
 }
 
 void Escritor::EscribeCociente(const Término& término, const Base& cociente,
@@ -156,103 +142,13 @@ void Escritor::EscribeLiteral(std::string& destino, const Literal& literal) cons
         if (encerrado)
             destino += ')';
         if (base.clase == ClaseBase::Euler) {
-            EscribeSumaExponente(destino, factores);
+            EscribeSumaExponente(tabla_, destino, factores);
             destino += ')';
         } else {
-            EscribeExponente(destino, factores);
+            EscribeExponente(tabla_, destino, factores);
         }
         i = fin;
     }
-}
-
-void Escritor::EscribeExponente(std::string& destino, const Exponente& exponente) const {
-    if (exponente.EsEntero()) {
-        std::array<char, 24> búfer{};
-        const auto fin =
-            std::to_chars(búfer.data(), búfer.data() + búfer.size(), exponente.Numerador());
-        if (exponente.Numerador() < MáximoEscrito && exponente.Numerador() > -MáximoEscrito) {
-            destino.append(búfer.data(), fin.ptr);
-            return;
-        }
-    }
-    const Coeficiente valor = exponente.Valor();
-    if (EsDecimal(tabla_, valor) || !SeEscribeEntero(valor.Numerador()) ||
-        !SeEscribeEntero(valor.Denominador()))
-        return EscribeNúmero(destino, valor.Escrito(dígitos_).ADouble());
-    destino += '(';
-    EscribeNúmero(destino, valor.Numerador().ADouble());
-    destino += '/';
-    EscribeNúmero(destino, valor.Denominador().ADouble());
-    destino += ')';
-}
-
-void Escritor::EscribeExponente(std::string& destino, std::span<const Factor> factores) const {
-    const Factor& primero = factores.front();
-    if (factores.size() == 1 && tabla_.EsLlano(primero.símbolo)) {
-        if (primero.exponente == 1)
-            return;
-        destino += '^';
-        return EscribeExponente(destino, primero.exponente);
-    }
-    destino += '^';
-    if (factores.size() == 1 && (primero.exponente == 1 || primero.exponente == -1) &&
-        EsSimple(tabla_.LiteralExponente(primero.símbolo))) {
-        if (primero.exponente.Signo() < 0)
-            destino += '-';
-        destino += tabla_.TextoExponente(primero.símbolo);
-        return;
-    }
-    destino += '(';
-    EscribeSumaExponente(destino, factores);
-    destino += ')';
-}
-
-// The least whole number that makes all exponents whole, where one of them is no decimal number;
-// otherwise 1.
-std::int64_t Escritor::DevDenominadorComún(std::span<const Factor> factores) const {
-    if (std::ranges::all_of(
-            factores, [&](const Factor& f) { return EsDecimal(tabla_, f.exponente.Valor()); }))
-        return 1;
-    constexpr std::int64_t MáximoDenominador = 1'000'000;
-    std::int64_t común = 1;
-    for (const Factor& factor : factores) {
-        if (factor.exponente.Denominador() > MáximoDenominador)
-            return 1;
-        común = std::lcm(común, factor.exponente.Denominador());
-        if (común > MáximoDenominador)
-            return 1;
-    }
-    return común;
-}
-
-// A lone variable or function, which needs no parentheses behind "^".
-bool Escritor::EsSimple(const Literal& literal) const {
-    if (literal.size() != 1 || literal[0].exponente != 1)
-        return false;
-    const ClaseBase clase = tabla_.BaseDe(literal[0].símbolo).clase;
-    return clase == ClaseBase::Euler ||
-           (tabla_.EsLlano(literal[0].símbolo) &&
-            (clase == ClaseBase::Variable || clase == ClaseBase::Función));
-}
-
-void Escritor::EscribeSumaExponente(std::string& destino, std::span<const Factor> factores) const {
-    const std::int64_t escala = DevDenominadorComún(factores);
-    std::string suma;
-    for (const Factor& factor : factores) {
-        const Coeficiente coeficiente = factor.exponente.Valor() * escala;
-        quiralto::EscribeTérmino(suma, coeficiente.Escrito(dígitos_).ADouble(),
-                                 tabla_.TextoExponente(factor.símbolo));
-    }
-    if (suma.empty())
-        suma = "0";
-    const bool encerrada = escala != 1 && factores.size() > 1;
-    if (encerrada)
-        destino += '(';
-    destino += suma;
-    if (encerrada)
-        destino += ')';
-    if (escala != 1)
-        (destino += '/') += std::to_string(escala);
 }
 
 void Escritor::EscribeFracción(const Términos& numerador, const Términos& denominador) {
@@ -282,6 +178,21 @@ std::string EscribeSuma(const TablaSímbolos& tabla, const Términos& suma) {
     return std::move(escritor.texto);
 }
 
+std::string EscribeDentro(const TablaSímbolos& tabla, const Términos& suma) {
+    const auto entero = [](const Término& t) { return t.coeficiente.EsEnteroPequeño(); };
+    if (std::ranges::all_of(suma, entero) || HayCocientes(tabla, suma))
+        return EscribeSuma(tabla, suma);
+    std::vector<std::string> literales;
+    for (const Término& término : suma)
+        literales.push_back(EscribeLiteral(tabla, término.literal));
+    std::vector<Sumando> sumandos;
+    for (std::size_t i = 0; i < suma.size(); ++i)
+        sumandos.push_back({suma[i].coeficiente, literales[i]});
+    std::string texto;
+    EscribeSumandos(tabla, texto, std::move(sumandos));
+    return texto;
+}
+
 std::string EscribeLiteral(const TablaSímbolos& tabla, const Literal& literal) {
     Escritor escritor(tabla);
     escritor.EscribeLiteral(escritor.texto, literal);
@@ -295,17 +206,6 @@ std::string EscribeFracción(const TablaSímbolos& tabla, const Términos& numer
     return std::move(escritor.texto);
 }
 
-Coeficiente DevFracciónEscrita(const Coeficiente& valor) {
-    if (valor.EsExacto() && SeEscribeEntero(valor.Numerador()) &&
-        SeEscribeEntero(valor.Denominador()))
-        return valor;
-    constexpr int Dígitos = 15;
-    const bool pequeño = (valor.Absoluto() - 1).Signo() < 0;
-    const double lado = pequeño ? valor.Inverso().ADouble() : valor.ADouble();
-    const Coeficiente escrito = Coeficiente::DesdeDouble(lado).Escrito(Dígitos);
-    return pequeño ? escrito.Inverso() : escrito;
-}
-
 Coeficiente DevCoeficienteEscrito(const TablaSímbolos& tabla, const Término& término) {
     if (!tabla.HayCocientes() || DevCocienteDe(tabla, término.literal) == nullptr) {
         Coeficiente escrito = término.coeficiente.Escrito(tabla.contexto.DígitosRedondeo);
@@ -314,10 +214,6 @@ Coeficiente DevCoeficienteEscrito(const TablaSímbolos& tabla, const Término& t
     }
     return término.coeficiente.EsCero() ? término.coeficiente
                                         : DevFracciónEscrita(término.coeficiente);
-}
-
-bool EsDecimal(const TablaSímbolos& tabla, const Coeficiente& valor) {
-    return valor.EsEnteroPequeño() || valor.Escrito(tabla.contexto.DígitosRedondeo) == valor;
 }
 
 } // namespace quiralto

@@ -8,11 +8,14 @@
 
 namespace quiralto {
 
-// The text of a sum. Coefficients are rounded to DígitosRedondeo; one that would be written as 0
+// The text of a sum whose coefficients are final (forma_final.h): one that is no decimal number
 // stands as a fraction, "X/10000000000". Without redundant parentheses, with one exception: a power
 // stands in parentheses where it is raised again, "(X^2)^.5". Fault: run-time error 14 past
 // MáximoTexto.
 std::string EscribeSuma(const TablaSímbolos& tabla, const Términos& suma);
+
+// The same inside a function or a base, where fractions stand over one number (escribe_dentro.h).
+std::string EscribeDentro(const TablaSímbolos& tabla, const Términos& suma);
 
 // The text of a literal part; "" for none.
 std::string EscribeLiteral(const TablaSímbolos& tabla, const Literal& literal);
@@ -21,15 +24,8 @@ std::string EscribeLiteral(const TablaSímbolos& tabla, const Literal& literal);
 std::string EscribeFracción(const TablaSímbolos& tabla, const Términos& numerador,
                             const Términos& denominador);
 
-// The number as the two sides of a fraction bar can say it without a loss: within 15 digits each,
-// or else a number of 15 digits or its inverse.
-Coeficiente DevFracciónEscrita(const Coeficiente& valor);
-
 // The coefficient of a term as its text will say it: a decimal number, or a fraction where the term
 // is a quotient and where the decimal would be 0.
 Coeficiente DevCoeficienteEscrito(const TablaSímbolos& tabla, const Término& término);
-
-// Whether a number stays what it is when it is written as a decimal number.
-bool EsDecimal(const TablaSímbolos& tabla, const Coeficiente& valor);
 
 } // namespace quiralto

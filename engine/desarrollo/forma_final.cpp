@@ -2,6 +2,7 @@
 
 #include "engine/desarrollo/escribe.h"
 #include "engine/desarrollo/fraccion_abierta.h"
+#include "engine/desarrollo/numero_escrito.h"
 #include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto.h"
 #include "engine/desarrollo/recursion.h"
@@ -18,19 +19,27 @@ bool EsLlana(const TablaSímbolos& tabla, const Literal& literal, std::size_t de
            tabla.BaseDe(literal[desde].símbolo).clase != ClaseBase::Euler;
 }
 
+bool SeEscribe(const TablaSímbolos& tabla, const Exponente& exponente) {
+    const Coeficiente valor = exponente.Valor();
+    return DevEscritoDentro(tabla, valor) == valor;
+}
+
 // Whether the exponents of one base read as they would be written by themselves.
 bool EstáAsentado(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde,
                   std::size_t fin) {
     if (EsLlana(tabla, literal, desde, fin))
         return true;
     bool hayCociente = false;
-    bool decimales = true;
+    bool seEscriben = true;
     for (std::size_t i = desde; i < fin; ++i) {
-        hayCociente = hayCociente ||
-                      DevCocienteDe(tabla, tabla.LiteralExponente(literal[i].símbolo)) != nullptr;
-        decimales = decimales && EsDecimal(tabla, literal[i].exponente.Valor());
+        const Base* const cociente =
+            DevCocienteDe(tabla, tabla.LiteralExponente(literal[i].símbolo));
+        if (cociente != nullptr && cociente->signoAbajo && literal[i].exponente.Signo() < 0)
+            return false;
+        hayCociente = hayCociente || cociente != nullptr;
+        seEscriben = seEscriben && SeEscribe(tabla, literal[i].exponente);
     }
-    return tabla.clase == ClaseDesarrollo::Completo ? !hayCociente || fin == desde + 1 : decimales;
+    return tabla.clase == ClaseDesarrollo::Completo ? !hayCociente || fin == desde + 1 : seEscriben;
 }
 
 bool EstánAsentados(const TablaSímbolos& tabla, const Literal& literal) {
@@ -54,7 +63,7 @@ Literal Asienta(TablaSímbolos& tabla, const Literal& literal) {
             Términos exponente = DevExponente(tabla, literal, i, fin);
             exponente = tabla.clase == ClaseDesarrollo::Completo
                             ? Cierra(tabla, SobreUnDenominador(tabla, exponente))
-                            : DevFormaFinal(tabla, std::move(exponente));
+                            : DevFormaInterior(tabla, std::move(exponente));
             const Literal potencia =
                 DevPotenciaDe(tabla, tabla.IdDe(literal[i].símbolo), exponente);
             asentado.insert(asentado.end(), potencia.begin(), potencia.end());
@@ -82,12 +91,38 @@ bool QuitaSignos(TablaSímbolos& tabla, Término& término) {
     return true;
 }
 
+// Groups to a whole exponent below 0 give out the number that their terms have in common. Whether
+// one had it.
+bool SacaNúmeros(TablaSímbolos& tabla, Término& término) {
+    if (!tabla.HayBasesReducibles())
+        return false;
+    FracciónAbierta f{.coeficiente = término.coeficiente};
+    for (std::size_t i = 0; i < término.literal.size(); ++i)
+        if (término.literal[i].exponente.Signo() < 0 &&
+            EsPotenciaEntera(tabla, término.literal, i) &&
+            tabla.BaseDe(término.literal[i].símbolo).contenido.size() > 1)
+            f.arriba.push_back(término.literal[i]);
+    if (f.arriba.empty())
+        return false;
+    const Literal antes = f.arriba;
+    AbreGrupos(tabla, f);
+    if (f.arriba == antes || !f.sumas.empty() || !f.abajo.empty())
+        return false;
+    Literal resto;
+    for (const Factor& factor : término.literal)
+        if (std::ranges::find(antes, factor) == antes.end())
+            resto.push_back(factor);
+    MultiplicaLiterales(tabla, resto, f.arriba, término.literal);
+    término.coeficiente = f.coeficiente;
+    return true;
+}
+
 } // namespace
 
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma) {
     bool otros = false; // literal parts have changed
     for (Término& término : suma) {
-        otros = QuitaSignos(tabla, término) || otros;
+        otros = QuitaSignos(tabla, término) || SacaNúmeros(tabla, término) || otros;
         if (!EstánAsentados(tabla, término.literal)) {
             const GuardaProfundidad guarda(tabla);
             término.literal = Asienta(tabla, término.literal);
@@ -106,6 +141,13 @@ Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma) {
     suma = DevAsentada(tabla, std::move(suma));
     for (Término& término : suma)
         término.coeficiente = DevCoeficienteEscrito(tabla, término);
+    return suma;
+}
+
+Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma) {
+    suma = DevAsentada(tabla, std::move(suma));
+    for (Término& término : suma)
+        término.coeficiente = DevEscritoDentro(tabla, término.coeficiente);
     return suma;
 }
 

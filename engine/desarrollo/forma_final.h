@@ -6,10 +6,14 @@
 
 namespace quiralto {
 
-// The sum with its coefficients rounded to what a text says of them and with its exponents settled:
-// an exponent that is an expression is rounded like a sum of its own (in a complete expansion it is
-// brought over one denominator instead, exactly).
+// The sum as a text says it: its coefficients rounded to DígitosRedondeo, its exponents settled. An
+// exponent that is an expression keeps its numbers; in a complete expansion it is brought over one
+// denominator.
 Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma);
+
+// The same inside a function, a base, an exponent or a quotient: no coefficient is rounded that a
+// fraction can keep.
+Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma);
 
 // The sum with its exponents settled and its own coefficients as they are.
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma);

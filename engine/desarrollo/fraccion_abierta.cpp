@@ -12,13 +12,6 @@
 namespace quiralto {
 namespace {
 
-// Whether the factor is the only one of its base, to a whole exponent.
-bool EsPotenciaEntera(const TablaSímbolos& tabla, const Literal& literal, std::size_t i) {
-    const Factor& factor = literal[i];
-    return tabla.EsLlano(factor.símbolo) && factor.exponente.EsEntero() &&
-           (i == 0 || tabla.IdDe(literal[i - 1].símbolo) != tabla.IdDe(factor.símbolo));
-}
-
 bool EsGrupoDeVarios(const TablaSímbolos& tabla, const Literal& literal, std::size_t i) {
     const Base& base = tabla.BaseDe(literal[i].símbolo);
     return base.clase == ClaseBase::Grupo && base.contenido.size() > 1 &&
@@ -28,8 +21,9 @@ bool EsGrupoDeVarios(const TablaSímbolos& tabla, const Literal& literal, std::s
 // A number, or a group of one term.
 bool EntraEnElTérmino(const TablaSímbolos& tabla, const Literal& literal, std::size_t i) {
     const Base& base = tabla.BaseDe(literal[i].símbolo);
-    return (base.clase == ClaseBase::Número || base.clase == ClaseBase::Grupo) &&
-           base.contenido.size() == 1 && !HayCocientes(tabla, base.contenido) &&
+    return (base.clase == ClaseBase::Número ||
+            (base.clase == ClaseBase::Grupo && base.contenido.size() == 1 &&
+             !HayCocientes(tabla, base.contenido))) &&
            EsPotenciaEntera(tabla, literal, i);
 }
 
@@ -73,11 +67,31 @@ Coeficiente SacaDelLiteral(TablaSímbolos& tabla, Literal& literal, std::size_t 
     literal.erase(literal.begin() + static_cast<std::ptrdiff_t>(i));
     const Términos potencia =
         ElevaAEntero(tabla, tabla.BaseDe(factor.símbolo).contenido, factor.exponente.Numerador());
+    if (potencia.empty())
+        return 0;
     Literal unido;
     MultiplicaLiterales(tabla, literal, potencia[0].literal, unido);
     JuntaRaíces(tabla, unido);
     literal = std::move(unido);
     return potencia[0].coeficiente;
+}
+
+// A group of several whose terms have a number in common gives it out. Whether it had one; it
+// stands above with an exponent below 0 (signo 1), or below.
+bool SacaNúmero(TablaSímbolos& tabla, FracciónAbierta& f, std::size_t i, int signo) {
+    Literal& lado = signo > 0 ? f.arriba : f.abajo;
+    const Factor factor = lado[i];
+    const Términos& contenido = tabla.BaseDe(factor.símbolo).contenido;
+    if (DevContenido(contenido).EsUno())
+        return false;
+    const ConNúmero grupo = DevGrupo(tabla, contenido);
+    f.coeficiente *= grupo.número.Potencia(signo * factor.exponente.Numerador());
+    lado.erase(lado.begin() + static_cast<std::ptrdiff_t>(i));
+    Literal unido;
+    MultiplicaLiterales(tabla, lado, {{grupo.grupo, factor.exponente}}, unido);
+    JuntaRaíces(tabla, unido);
+    lado = std::move(unido);
+    return true;
 }
 
 // A group below 0 meets a sum that is proportional to it. Whether it did.
@@ -124,6 +138,8 @@ void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
         if (EntraEnElTérmino(tabla, f.abajo, i)) {
             f.coeficiente /= SacaDelLiteral(tabla, f.abajo, i);
             i = 0;
+        } else if (EsGrupoDeVarios(tabla, f.abajo, i) && SacaNúmero(tabla, f, i, -1)) {
+            i = 0;
         } else {
             ++i;
         }
@@ -143,7 +159,7 @@ void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
             f.arriba.erase(f.arriba.begin() + static_cast<std::ptrdiff_t>(i));
             PonPotencia(f, tabla.BaseDe(factor.símbolo).contenido, factor.exponente.Numerador());
             i = 0;
-        } else if (JuntaNegativo(tabla, f, i)) {
+        } else if (JuntaNegativo(tabla, f, i) || SacaNúmero(tabla, f, i, 1)) {
             i = 0;
         } else {
             ++i;
@@ -190,14 +206,22 @@ FracciónAbierta Multiplica(TablaSímbolos& tabla, FracciónAbierta a, Fracción
         PonPotencia(producto, potencia.suma, potencia.exponente);
     producto.signoAbajo = producto.signoAbajo != b.signoAbajo;
     AbreGrupos(tabla, producto);
+    if (producto.coeficiente.EsCero())
+        return {.coeficiente = 0};
     Reduce(tabla, producto);
     return producto;
 }
 
 ConNúmero DevGrupo(TablaSímbolos& tabla, const Términos& suma) {
     Términos primitiva = suma;
-    const Coeficiente contenido = SacaContenido(primitiva);
-    return {DevBaseDe(tabla, DevFormaFinal(tabla, std::move(primitiva))), contenido};
+    Coeficiente contenido = SacaContenido(primitiva);
+    primitiva = DevFormaInterior(tabla, std::move(primitiva));
+    // Numbers that the text cuts can have a factor in common again.
+    while (primitiva.size() > 1 && !DevContenido(primitiva).EsUno()) {
+        contenido *= SacaContenido(primitiva);
+        primitiva = DevFormaInterior(tabla, std::move(primitiva));
+    }
+    return {DevBaseDe(tabla, primitiva), contenido};
 }
 
 FracciónAbierta DevInversa(TablaSímbolos& tabla, const FracciónAbierta& f) {

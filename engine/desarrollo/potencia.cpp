@@ -3,6 +3,7 @@
 #include "engine/base/fallos.h"
 #include "engine/desarrollo/escribe.h"
 #include "engine/desarrollo/multinomio.h"
+#include "engine/desarrollo/numero_escrito.h"
 #include "engine/desarrollo/producto.h"
 
 #include <bit>
@@ -62,7 +63,7 @@ Términos ElevaAEntero(TablaSímbolos& tabla, const Términos& base, std::int64_
 IdSímbolo DevBaseDe(TablaSímbolos& tabla, const Términos& suma) {
     if (const auto simple = DevBaseSimple(tabla, suma))
         return *simple;
-    const std::string texto = EscribeSuma(tabla, suma);
+    const std::string texto = EscribeDentro(tabla, suma);
     if (EsNúmero(suma) && EsDecimal(tabla, DevNúmero(suma)))
         return tabla.DevBase({.clase = ClaseBase::Número,
                               .texto = DevNúmero(suma).Signo() < 0 ? "(" + texto + ")" : texto,

@@ -2,7 +2,8 @@
 //
 // - A product multiplies out the power of a group that has become whole (ElevaAEntero): a group's
 //   content is final and holds no such power.
-// - An open fraction is reduced and its groups get their final text (Reduce, DevFormaFinal). Groups
+// - An open fraction is reduced and its groups get their final text (Reduce, DevFormaInterior).
+// Groups
 //   with quotients that have become whole powers of it, and exponents as they get their final text,
 //   are brought over one denominator (SobreUnDenominadorSiCabe, SobreUnDenominador, Cierra): what
 //   is inside a quotient, a group or an exponent is smaller than it.
@@ -17,7 +18,7 @@ struct FracciónAbierta;
 
 Términos ElevaAEntero(TablaSímbolos& tabla, const Términos& base, std::int64_t exponente);
 void Reduce(TablaSímbolos& tabla, FracciónAbierta& f);
-Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma);
+Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma);
 FracciónAbierta SobreUnDenominador(TablaSímbolos& tabla, const Términos& suma);
 FracciónAbierta SobreUnDenominadorSiCabe(TablaSímbolos& tabla, const Términos& suma);
 Términos Cierra(TablaSímbolos& tabla, const FracciónAbierta& f);

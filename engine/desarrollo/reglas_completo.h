@@ -1,9 +1,10 @@
 // How a complete expansion computes: every value is one fraction.
 //
 // Its forms: one fraction over one denominator, both multiplied out, its common factors cancelled
-// (reduccion.h), negative whole exponents below it. Where the denominator is a number, or one term,
-// the fraction has whole numbers; where it is a sum, its decimals stay as long as their text loses
-// nothing. A quotient inside an exponent or an argument is one fraction likewise.
+// (reduccion.h), negative whole exponents below it (sin_negativos.h). Where the denominator is a
+// number, or one term, the fraction has whole numbers; where it is a sum, its decimals stay as long
+// as their text loses nothing (lados.h). A quotient inside an exponent or an argument is one
+// fraction likewise.
 // Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
@@ -26,30 +27,18 @@ public:
 
     explicit ReglasCompleto(TablaSímbolos& tabla) : tabla_(tabla) {}
 
-    Valor DeX();
-    Valor DeNúmero(double valor);
-    Valor Opera(const DescripciónOperación& operación, Valor a, Valor b);
-    std::string Escribe(Valor valor);
-
-private:
-    struct Lados {
-        Términos numerador;
-        Términos denominador;
-    };
-
     Valor Suma(Valor a, Valor b, int signo);
     Valor Producto(Valor& a, Valor& b);
     Valor Cociente(Valor& a, Valor& b);
     Valor Potencia(Valor& a, Valor& b);
     Valor Llamada(const DescripciónOperación& función, Valor& argumento);
+    std::string Escribe(Valor valor);
+
+private:
     void Cierra(Valor& valor);
+    Valor DeProducto(FracciónAbierta f, Coeficiente divisor);
     FracciónAbierta ComoProducto(Valor& valor);
     Términos ComoSuma(Valor& valor);
-    Valor SinNegativos(Valor valor);
-    Lados DevLados(Valor& valor);
-    FracciónAbierta DevFracción(const Lados& lados) const;
-    void DaFormaFinal(Lados& lados);
-    void Iguala(Lados& lados) const;
 
     TablaSímbolos& tabla_;
 };

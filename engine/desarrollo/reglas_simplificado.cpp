@@ -9,33 +9,6 @@ namespace quiralto {
 
 using Valor = ReglasSimplificado::Valor;
 
-Valor ReglasSimplificado::DeX() {
-    return {.suma = SumaSímbolo(tabla_.DevVariable('X', "X")), .producto = {}};
-}
-
-Valor ReglasSimplificado::DeNúmero(double valor) {
-    return {.suma = SumaNúmero(Coeficiente::DesdeDouble(valor)), .producto = {}};
-}
-
-Valor ReglasSimplificado::Opera(const DescripciónOperación& operación, Valor a, Valor b) {
-    switch (operación.familia) {
-    case Familia::Suma:
-        return Suma(std::move(a), std::move(b), 1);
-    case Familia::Resta:
-        return Suma(std::move(a), std::move(b), -1);
-    case Familia::Producto:
-        return Producto(a, b);
-    case Familia::Cociente:
-        return Cociente(a, b);
-    case Familia::Potencia:
-        return Potencia(a, b);
-    case Familia::Función:
-    case Familia::Símbolo:
-        break;
-    }
-    return Llamada(operación, b);
-}
-
 void ReglasSimplificado::Cierra(Valor& valor) {
     if (!valor.producto)
         return;
@@ -113,10 +86,10 @@ Valor ReglasSimplificado::Potencia(Valor& a, Valor& b) {
     const Términos exponente = ComoSuma(b);
     const auto entero = DevExponenteEntero(exponente);
     if (!entero) {
-        const Términos base = DevFormaFinal(tabla_, ComoSuma(a));
+        const Términos base = DevFormaInterior(tabla_, ComoSuma(a));
         return {.suma = ElevaAlFinal(tabla_, base,
                                      EsNúmero(exponente) ? exponente
-                                                         : DevFormaFinal(tabla_, exponente)),
+                                                         : DevFormaInterior(tabla_, exponente)),
                 .producto = {}};
     }
     FracciónAbierta base = *entero < 0 ? ComoFracción(a) : ComoProducto(a);
@@ -124,8 +97,9 @@ Valor ReglasSimplificado::Potencia(Valor& a, Valor& b) {
 }
 
 Valor ReglasSimplificado::Llamada(const DescripciónOperación& función, Valor& argumento) {
-    const Términos final = DevFormaFinal(tabla_, ComoSuma(argumento));
-    return {.suma = DevLlamada(tabla_, función, final, EscribeSuma(tabla_, final)), .producto = {}};
+    const Términos dentro = DevFormaInterior(tabla_, ComoSuma(argumento));
+    return {.suma = DevLlamada(tabla_, función, dentro, EscribeDentro(tabla_, dentro)),
+            .producto = {}};
 }
 
 std::string ReglasSimplificado::Escribe(Valor valor) {

@@ -33,18 +33,15 @@ public:
 
     explicit ReglasSimplificado(TablaSímbolos& tabla) : tabla_(tabla) {}
 
-    Valor DeX();
-    Valor DeNúmero(double valor);
-    Valor Opera(const DescripciónOperación& operación, Valor a, Valor b);
-    std::string Escribe(Valor valor);
-    Términos ComoSuma(Valor& valor);
-
-private:
     Valor Suma(Valor a, Valor b, int signo);
     Valor Producto(Valor& a, Valor& b);
     Valor Cociente(Valor& a, Valor& b);
     Valor Potencia(Valor& a, Valor& b);
     Valor Llamada(const DescripciónOperación& función, Valor& argumento);
+    std::string Escribe(Valor valor);
+    Términos ComoSuma(Valor& valor);
+
+private:
     void Cierra(Valor& valor);
     FracciónAbierta ComoProducto(Valor& valor);
     FracciónAbierta ComoFracción(Valor& valor);

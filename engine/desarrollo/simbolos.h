@@ -148,6 +148,13 @@ private:
 // The factors of one base that stand together from literal[desde]: the position behind them.
 std::size_t FinDeBase(const TablaSímbolos& tabla, const Literal& literal, std::size_t desde);
 
+// Whether the factor is the only one of its base, to a whole exponent.
+inline bool EsPotenciaEntera(const TablaSímbolos& tabla, const Literal& literal, std::size_t i) {
+    const Factor& factor = literal[i];
+    return tabla.EsLlano(factor.símbolo) && factor.exponente.EsEntero() &&
+           (i == 0 || tabla.IdDe(literal[i - 1].símbolo) != tabla.IdDe(factor.símbolo));
+}
+
 // Whether a literal part has no power of that base with more than a number as its exponent.
 bool EsBaseLlana(const TablaSímbolos& tabla, const Literal& literal, IdBase base);
 

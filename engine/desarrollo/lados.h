@@ -1,0 +1,30 @@
+// The two sides of the one fraction that a complete expansion ends in, both multiplied out.
+// Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
+#pragma once
+
+#include "engine/desarrollo/fraccion_abierta.h"
+
+#include <string>
+
+namespace quiralto {
+
+struct Lados {
+    Términos numerador;
+    Términos denominador;
+};
+
+// The sides of f/divisor.
+Lados DevLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& divisor);
+
+// The fraction that they are, reduced.
+FracciónAbierta DevFracción(TablaSímbolos& tabla, const Lados& lados);
+
+// Where a text will stand: whether its numbers are rounded.
+enum class Sitio : std::uint8_t { Fuera, Dentro };
+
+// The text. Where the denominator is a number, or one term, the fraction has whole numbers; where
+// it is a sum, its decimals stay as long as their text loses nothing. Without a denominator
+// decimals are rounded (outside), or stand over one number (inside).
+std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio);
+
+} // namespace quiralto
