@@ -50,7 +50,7 @@ std::optional<Términos> ElevaUno(TablaSímbolos& tabla, const Términos& base,
 
 } // namespace
 
-const Términos& Acumulada::Cerrada() {
+const Términos& Acumulada::Cerrada() & {
     if (abierta_) {
         suma_ = abierta_->Cierra();
         abierta_.reset();

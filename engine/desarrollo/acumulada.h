@@ -16,7 +16,11 @@ public:
     Acumulada() = default;
     Acumulada(Términos suma) : suma_(std::move(suma)) {} // NOLINT: a sum is one
 
-    const Términos& Cerrada();
+    const Términos& Cerrada() &;
+    Términos Cerrada() && {
+        Cerrada();
+        return std::move(suma_);
+    }
     std::size_t Cantidad() const { return abierta_ ? abierta_->Cantidad() : suma_.size(); }
 
     // *this + signo*b

@@ -199,7 +199,7 @@ Términos DevNumerador(TablaSímbolos& tabla, const FracciónAbierta& f) {
         return {};
     const Término término{f.coeficiente, f.arriba};
     if (f.sumas.empty())
-        return ReabreGrupos(tabla, MultiplicaSumas(tabla, {término}, SumaNúmero(1)));
+        return ReabreGrupos(tabla, MultiplicaPotencias(tabla, {término}));
     Términos producto;
     for (const auto& [suma, exponente] : f.sumas) {
         Términos potencia = ElevaConCocientes(tabla, suma, exponente);

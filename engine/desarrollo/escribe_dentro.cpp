@@ -92,6 +92,11 @@ void EscribeExponente(const TablaSímbolos& tabla, std::string& texto,
         if (primero.exponente == 1)
             return;
         texto += '^';
+        if (primero.exponente.EsEntero() && primero.exponente.Numerador() >= 0 &&
+            primero.exponente.Numerador() < 10) { // most are
+            texto += static_cast<char>('0' + primero.exponente.Numerador());
+            return;
+        }
         return EscribeExponenteNúmero(tabla, texto, primero.exponente.Valor());
     }
     texto += '^';

@@ -40,7 +40,8 @@ double DevCota(const Términos& base, double n) {
 class Repartidor {
 public:
     Repartidor(const TablaSímbolos& tabla, const Términos& base, std::size_t n)
-        : tabla_(tabla), base_(base), n_(n), partes_(base.size(), 0), previos_(base.size() + 1) {
+        : tabla_(tabla), base_(base), n_(n), orden_(DevOrden(tabla, base)), partes_(base.size(), 0),
+          previos_(base.size() + 1) {
         previos_[0] = {1, {}, n};
         literales_.resize(base.size());
         coeficientes_.resize(base.size());
@@ -50,28 +51,73 @@ public:
         }
     }
 
+    // Terms of one symbol each, no two of the same, have powers that are all unlike.
     Términos Eleva() {
-        Recolector potencia(tabla_.contexto);
-        const std::size_t último = base_.size() - 1;
         partes_[0] = n_;
         Acumula(0);
-        for (;;) {
-            const Previo& entero = previos_.back();
-            potencia.Añade(entero.coeficiente, entero.literal);
-            std::size_t i = último;
-            while (i > 0 && partes_[i - 1] == 0)
-                --i;
-            if (i == 0)
-                return potencia.Toma();
-            --partes_[i - 1];
-            const std::size_t resto = partes_[último] + 1;
-            partes_[último] = 0;
-            partes_[i] = resto;
-            Acumula(i - 1);
+        if (orden_.empty()) {
+            Recolector potencia(tabla_.contexto);
+            do
+                potencia.Añade(previos_.back().coeficiente, previos_.back().literal);
+            while (Avanza());
+            return potencia.Toma();
         }
+        Términos potencia;
+        do {
+            if (potencia.size() % EntreVigilias == EntreVigilias - 1)
+                tabla_.contexto.Vigila();
+            if (potencia.size() == MáximoTérminos)
+                throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+            potencia.push_back({previos_.back().coeficiente, DevLiteral()});
+        } while (Avanza());
+        return potencia;
     }
 
 private:
+    // The places of such terms in the order of their symbols; none where a term is another.
+    static std::vector<std::size_t> DevOrden(const TablaSímbolos& tabla, const Términos& base) {
+        std::vector<std::size_t> orden;
+        for (std::size_t i = 0; i < base.size(); ++i) {
+            if (base[i].literal.size() > 1)
+                return {};
+            if (!base[i].literal.empty())
+                orden.push_back(i);
+        }
+        const auto símboloDe = [&](std::size_t i) { return base[i].literal[0].símbolo; };
+        std::ranges::sort(orden, [&](std::size_t i, std::size_t j) {
+            return tabla.Precede(símboloDe(i), símboloDe(j));
+        });
+        const auto repetido = std::ranges::adjacent_find(orden, {}, símboloDe);
+        return repetido == orden.end() ? orden : std::vector<std::size_t>();
+    }
+
+    Literal DevLiteral() const {
+        Literal literal;
+        literal.reserve(orden_.size());
+        for (const std::size_t i : orden_)
+            if (partes_[i] > 0)
+                literal.push_back(
+                    {base_[i].literal[0].símbolo,
+                     base_[i].literal[0].exponente * static_cast<std::int64_t>(partes_[i])});
+        return literal;
+    }
+
+    // The next way to share n out. Whether there is one.
+    bool Avanza() {
+        const std::size_t último = base_.size() - 1;
+        std::size_t i = último;
+        while (i > 0 && partes_[i - 1] == 0)
+            --i;
+        if (i == 0)
+            return false;
+        --partes_[i - 1];
+        const std::size_t resto = partes_[último] + 1;
+        partes_[último] = 0;
+        partes_[i] = resto;
+        Acumula(i - 1);
+        return true;
+    }
+
     // The product of the powers of the first terms, and what is left to share out.
     struct Previo {
         Coeficiente coeficiente;
@@ -87,22 +133,27 @@ private:
             siguiente.resto = previo.resto - parte;
             if (parte == 0) {
                 siguiente.coeficiente = previo.coeficiente;
-                siguiente.literal = previo.literal;
+                if (orden_.empty())
+                    siguiente.literal = previo.literal;
                 continue;
             }
             PreparaPotencia(i, parte);
             siguiente.coeficiente =
                 previo.coeficiente * Binomio(previo.resto, parte) * coeficientes_[i][parte];
-            MultiplicaLiterales(tabla_, previo.literal, literales_[i][parte], siguiente.literal);
+            if (orden_.empty())
+                MultiplicaLiterales(tabla_, previo.literal, literales_[i][parte],
+                                    siguiente.literal);
         }
     }
 
     void PreparaPotencia(std::size_t i, std::size_t parte) {
-        while (literales_[i].size() <= parte) {
+        while (coeficientes_[i].size() <= parte) {
+            coeficientes_[i].push_back(coeficientes_[i].back() * base_[i].coeficiente);
+            if (!orden_.empty())
+                continue;
             Literal literal;
             MultiplicaLiterales(tabla_, literales_[i].back(), base_[i].literal, literal);
             literales_[i].push_back(std::move(literal));
-            coeficientes_[i].push_back(coeficientes_[i].back() * base_[i].coeficiente);
         }
     }
 
@@ -123,6 +174,7 @@ private:
     const TablaSímbolos& tabla_;
     const Términos& base_;
     std::size_t n_;
+    std::vector<std::size_t> orden_;
     std::vector<std::size_t> partes_;
     std::vector<Previo> previos_;
     std::vector<std::vector<Literal>> literales_;        // powers of each term

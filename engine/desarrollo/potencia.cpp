@@ -17,14 +17,13 @@ Términos ElevaTérmino(TablaSímbolos& tabla, const Término& término, std::in
     for (Factor& factor : literal)
         factor.exponente = factor.exponente * n;
     JuntaRaíces(tabla, literal);
-    return MultiplicaSumas(tabla, {{término.coeficiente.Potencia(n), std::move(literal)}},
-                           SumaNúmero(1));
+    return MultiplicaPotencias(tabla, {{término.coeficiente.Potencia(n), std::move(literal)}});
 }
 
 Términos ElevaProducto(TablaSímbolos& tabla, const Términos& base, std::int64_t n) {
     if (n > 1)
         if (auto potencia = ElevaPorMultinomio(tabla, base, n))
-            return MultiplicaSumas(tabla, *potencia, SumaNúmero(1));
+            return MultiplicaPotencias(tabla, *std::move(potencia));
     // From the highest binary digit of n down: square, and multiply by the base where it is 1.
     const auto exponente = static_cast<std::uint64_t>(n);
     Términos potencia = base;

@@ -50,9 +50,11 @@ Términos MultiplicaSinReducir(TablaSímbolos& tabla, const Términos& a, const 
     return producto.Toma();
 }
 
+} // namespace
+
 // Ends because what a group holds is final: only joining it to the rest of its term can make
 // another group whole.
-Términos Reduce(TablaSímbolos& tabla, Términos suma) {
+Términos MultiplicaPotencias(TablaSímbolos& tabla, Términos suma) {
     while (HayReducibles(tabla, suma)) {
         const GuardaProfundidad guarda(tabla);
         Recolector reducida(tabla.contexto);
@@ -72,8 +74,6 @@ Términos Reduce(TablaSímbolos& tabla, Términos suma) {
     }
     return suma;
 }
-
-} // namespace
 
 void MultiplicaLiterales(const TablaSímbolos& tabla, const Literal& a, const Literal& b,
                          Literal& producto) {
@@ -132,7 +132,7 @@ void JuntaRaíces(const TablaSímbolos& tabla, Literal& literal) {
 }
 
 Términos MultiplicaSumas(TablaSímbolos& tabla, const Términos& a, const Términos& b) {
-    Términos producto = Reduce(tabla, MultiplicaSinReducir(tabla, a, b));
+    Términos producto = MultiplicaPotencias(tabla, MultiplicaSinReducir(tabla, a, b));
     assert(EsCanónica(tabla, producto));
     return producto;
 }

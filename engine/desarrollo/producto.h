@@ -29,6 +29,9 @@ struct ConRaíz {
 };
 ConRaíz JuntaRaíz(const Exponente& base, const Exponente& raíz);
 
+// The sum of collected terms with what does not stay a power multiplied out.
+Términos MultiplicaPotencias(TablaSímbolos& tabla, Términos suma);
+
 // A product, term by term, each kind in the place of its first term.
 Términos MultiplicaSumas(TablaSímbolos& tabla, const Términos& a, const Términos& b);
 

@@ -169,6 +169,9 @@ namespace {
 using EnteroDoble = Entero128;
 
 Coeficiente ACoeficiente(EnteroDoble valor) {
+    if (const auto corto = static_cast<std::int64_t>(valor);
+        EnteroDoble{corto} == valor && corto != INT64_MIN)
+        return corto;
     constexpr int Bits = 62;
     const auto alto = static_cast<std::int64_t>(valor >> Bits);
     const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));

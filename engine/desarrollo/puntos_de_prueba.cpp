@@ -52,13 +52,14 @@ PuntosDePrueba& DevPuntos(TablaSímbolos& tabla) {
     return *tabla.Puntos();
 }
 
-double PuntosDePrueba::En(Conjunto conjunto, const Literal& literal, std::size_t punto) {
+void PuntosDePrueba::Da(Conjunto conjunto, const Literal& literal, std::size_t desde,
+                        std::span<double> valores) {
     const Vista vista = conjunto == Conjunto::Primero ? Vista::Primera : Vista::SegundaFuera;
-    Asegura(vista, literal, (punto / Decena + 1) * Decena);
-    return DeLiteral(vista, literal, punto);
+    Asegura(vista, literal, desde + Decena);
+    DeLiteral(vista, literal, desde, valores);
 }
 
-double PuntosDePrueba::X(Vista vista, std::size_t punto) {
+double PuntosDePrueba::X(Vista vista, std::size_t punto) const {
     if (vista != Vista::Primera)
         return segundos_[punto];
     // Steps of the golden ratio fill the interval evenly, however many are taken.
@@ -121,62 +122,95 @@ void PuntosDePrueba::Asegura(Vista vista, const Literal& literal, std::size_t ha
         if (FaltanDentro(v, base, hasta))
             continue;
         Valores& fila = bases_[static_cast<std::size_t>(v)][id];
-        for (std::size_t i = fila.size(); i < hasta; ++i)
-            fila.push_back(SóloFinito(Calcula(v, base, i)));
+        for (std::size_t desde = fila.size(); desde < hasta; desde += Decena) {
+            fila.resize(desde + Decena);
+            const auto valores = std::span(fila).subspan(desde);
+            Calcula(v, base, desde, valores);
+            std::ranges::transform(valores, valores.begin(), SóloFinito);
+        }
         pendientes_.pop_back();
     }
 }
 
-double PuntosDePrueba::Calcula(Vista vista, const Base& base, std::size_t punto) {
+void PuntosDePrueba::Calcula(Vista vista, const Base& base, std::size_t desde,
+                             std::span<double> valores) {
+    const auto pon = [&](auto valor) {
+        for (std::size_t k = 0; k < valores.size(); ++k)
+            valores[k] = valor(k);
+    };
     switch (base.clase) {
     case ClaseBase::Variable:
-        return base.texto == "X" ? X(vista, punto) : Letra(vista, base.lugar, punto);
+        return base.texto == "X"
+                   ? pon([&](std::size_t k) { return X(vista, desde + k); })
+                   : pon([&](std::size_t k) { return Letra(vista, base.lugar, desde + k); });
     case ClaseBase::Función:
-        return ValorDe(*base.función, 0, DeSuma(Dentro(vista), base.contenido, punto));
+        DeSuma(Dentro(vista), base.contenido, desde, valores);
+        return pon([&](std::size_t k) { return ValorDe(*base.función, 0, valores[k]); });
     case ClaseBase::Euler:
-        return std::exp(1.0);
+        return pon([](std::size_t) { return std::exp(1.0); });
     case ClaseBase::Número:
     case ClaseBase::Grupo:
-        return DeSuma(Dentro(vista), base.contenido, punto);
-    case ClaseBase::Cociente:
-        return DeSuma(VistaDelNumerador(vista, base), base.contenido, punto) /
-               DeLiteral(vista, base.denominador, punto) * (base.signoAbajo ? -1 : 1);
+        return DeSuma(Dentro(vista), base.contenido, desde, valores);
+    case ClaseBase::Cociente: {
+        std::array<double, Decena> abajo{};
+        DeSuma(VistaDelNumerador(vista, base), base.contenido, desde, valores);
+        DeLiteral(vista, base.denominador, desde, std::span(abajo).first(valores.size()));
+        return pon(
+            [&](std::size_t k) { return valores[k] / abajo[k] * (base.signoAbajo ? -1 : 1); });
+    }
     case ClaseBase::Opaca:
         break;
     }
-    return CalculaOpaca(vista, base, punto);
+    pon([&](std::size_t k) { return CalculaOpaca(vista, base, desde + k); });
 }
 
-double PuntosDePrueba::DeSuma(Vista vista, const Términos& suma, std::size_t punto) {
-    double valor = 0;
-    for (const Término& término : suma)
-        valor += término.coeficiente.ADouble() * DeLiteral(vista, término.literal, punto);
-    return valor;
+void PuntosDePrueba::DeSuma(Vista vista, const Términos& suma, std::size_t desde,
+                            std::span<double> valores) {
+    std::array<double, Decena> búfer{};
+    const auto deTérmino = std::span(búfer).first(valores.size());
+    std::ranges::fill(valores, 0);
+    for (const Término& término : suma) {
+        DeLiteral(vista, término.literal, desde, deTérmino);
+        const double coeficiente = término.coeficiente.ADouble();
+        for (std::size_t k = 0; k < valores.size(); ++k)
+            valores[k] += coeficiente * deTérmino[k];
+    }
 }
 
-double PuntosDePrueba::DeLiteral(Vista vista, const Literal& literal, std::size_t punto) {
-    double producto = 1;
+void PuntosDePrueba::DeLiteral(Vista vista, const Literal& literal, std::size_t desde,
+                               std::span<double> valores) {
+    std::ranges::fill(valores, 1);
     for (std::size_t i = 0; i < literal.size();) {
         const std::size_t fin = FinDeBase(tabla_, literal, i);
-        producto *= DePotencia(vista, literal, i, fin, punto);
+        MultiplicaPotencia(vista, std::span(literal).subspan(i, fin - i), desde, valores);
         i = fin;
     }
-    return SóloFinito(producto);
+    std::ranges::transform(valores, valores.begin(), SóloFinito);
 }
 
-double PuntosDePrueba::DePotencia(Vista vista, const Literal& literal, std::size_t desde,
-                                  std::size_t fin, std::size_t punto) {
-    const Factor& primero = literal[desde];
-    const double base =
-        bases_[static_cast<std::size_t>(vista)][tabla_.IdDe(primero.símbolo)][punto];
-    if (fin == desde + 1 && tabla_.EsLlano(primero.símbolo))
-        return primero.exponente == 1 ? base : DevPotencia(base, primero.exponente.ADouble());
-    double exponente = 0;
-    for (std::size_t i = desde; i < fin; ++i)
-        exponente += literal[i].exponente.ADouble() *
-                     DeLiteral(Dentro(vista), tabla_.LiteralExponente(literal[i].símbolo), punto);
-    return tabla_.BaseDe(primero.símbolo).clase == ClaseBase::Euler ? std::exp(exponente)
-                                                                    : DevPotencia(base, exponente);
+void PuntosDePrueba::MultiplicaPotencia(Vista vista, std::span<const Factor> factores,
+                                        std::size_t desde, std::span<double> valores) {
+    const IdSímbolo primero = factores.front().símbolo;
+    const double* const base =
+        &bases_[static_cast<std::size_t>(vista)][tabla_.IdDe(primero)][desde];
+    if (factores.size() == 1 && tabla_.EsLlano(primero)) {
+        const double exponente = factores.front().exponente.ADouble();
+        for (std::size_t k = 0; k < valores.size(); ++k)
+            valores[k] *= exponente == 1 ? base[k] : DevPotencia(base[k], exponente);
+        return;
+    }
+    std::array<double, Decena> exponentes{};
+    std::array<double, Decena> búfer{};
+    const auto suyos = std::span(búfer).first(valores.size());
+    for (const Factor& factor : factores) {
+        DeLiteral(Dentro(vista), tabla_.LiteralExponente(factor.símbolo), desde, suyos);
+        const double coeficiente = factor.exponente.ADouble();
+        for (std::size_t k = 0; k < suyos.size(); ++k)
+            exponentes[k] += coeficiente * suyos[k];
+    }
+    const bool esEuler = tabla_.BaseDe(primero).clase == ClaseBase::Euler;
+    for (std::size_t k = 0; k < valores.size(); ++k)
+        valores[k] *= esEuler ? std::exp(exponentes[k]) : DevPotencia(base[k], exponentes[k]);
 }
 
 // A text of the language that was never taken apart: its letters all count as inside.

@@ -12,6 +12,7 @@
 #include "engine/lenguaje/programa.h"
 
 #include <array>
+#include <span>
 #include <unordered_map>
 
 namespace quiralto {
@@ -25,9 +26,15 @@ public:
 
     explicit PuntosDePrueba(const TablaSímbolos& tabla);
 
-    // What a literal part is worth at a point (below MáximosPuntos, of the second set below
-    // Decena); not a number where it has no value.
-    double En(Conjunto conjunto, const Literal& literal, std::size_t punto);
+    // What a literal part is worth at points that follow each other (at most ten, from a multiple
+    // of ten on, below MáximosPuntos; the second set has ten); not a number where it has no value.
+    void Da(Conjunto conjunto, const Literal& literal, std::size_t desde,
+            std::span<double> valores);
+    std::array<double, Decena> En(Conjunto conjunto, const Literal& literal, std::size_t desde) {
+        std::array<double, Decena> valores{};
+        Da(conjunto, literal, desde, valores);
+        return valores;
+    }
 
 private:
     // How letters are seen: in the second set from outside or from inside a function.
@@ -37,22 +44,22 @@ private:
     static Vista Dentro(Vista vista) {
         return vista == Vista::SegundaFuera ? Vista::SegundaDentro : vista;
     }
-    double X(Vista vista, std::size_t punto);
+    double X(Vista vista, std::size_t punto) const;
     double Letra(Vista vista, double lugar, std::size_t punto);
     void Asegura(Vista vista, const Literal& literal, std::size_t hasta);
-    void Asegura(Vista vista, IdBase base, std::size_t hasta);
     bool Faltan(Vista vista, const Literal& literal, std::size_t hasta);
     bool Faltan(Vista vista, const Términos& suma, std::size_t hasta);
     bool FaltanDentro(Vista vista, const Base& base, std::size_t hasta);
     Vista VistaDelNumerador(Vista vista, const Base& cociente) const {
         return cociente.contenido.size() > 1 ? Dentro(vista) : vista;
     }
-    double DeBase(Vista vista, IdBase base, std::size_t punto);
-    double DeLiteral(Vista vista, const Literal& literal, std::size_t punto);
-    double DeSuma(Vista vista, const Términos& suma, std::size_t punto);
-    double DePotencia(Vista vista, const Literal& literal, std::size_t desde, std::size_t fin,
-                      std::size_t punto);
-    double Calcula(Vista vista, const Base& base, std::size_t punto);
+    // At the points from `desde` on, as many as there are values.
+    void DeLiteral(Vista vista, const Literal& literal, std::size_t desde,
+                   std::span<double> valores);
+    void DeSuma(Vista vista, const Términos& suma, std::size_t desde, std::span<double> valores);
+    void MultiplicaPotencia(Vista vista, std::span<const Factor> factores, std::size_t desde,
+                            std::span<double> valores);
+    void Calcula(Vista vista, const Base& base, std::size_t desde, std::span<double> valores);
     double CalculaOpaca(Vista vista, const Base& base, std::size_t punto);
 
     const TablaSímbolos& tabla_;

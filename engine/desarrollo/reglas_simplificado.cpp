@@ -18,7 +18,7 @@ void ReglasSimplificado::Cierra(Valor& valor) {
 
 Términos ReglasSimplificado::ComoSuma(Valor& valor) {
     Cierra(valor);
-    return valor.suma.Cerrada();
+    return std::move(valor.suma).Cerrada();
 }
 
 FracciónAbierta ReglasSimplificado::ComoProducto(Valor& valor) {

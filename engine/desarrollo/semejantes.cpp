@@ -1,10 +1,9 @@
 #include "engine/desarrollo/semejantes.h"
 
-#include "engine/numeros/numero.h"
-
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <ranges>
 
 namespace quiralto {
 namespace {
@@ -34,8 +33,8 @@ bool EsMonomioDeX(const TablaSímbolos& tabla, const Literal& literal) {
            literal[0].exponente.EsEntero();
 }
 
-bool ÍndiceSemejantes::Redondea0(double valor) const {
-    return Redondea(valor, tabla_.contexto.DígitosRedondeo) == 0;
+ÍndiceSemejantes::ÍndiceSemejantes(TablaSímbolos& tabla)
+    : tabla_(tabla), mitad_(.5 * std::pow(10, -tabla.contexto.DígitosRedondeo)) {
 }
 
 bool ÍndiceSemejantes::EsConstante(const Literal& literal) const {
@@ -47,27 +46,34 @@ bool ÍndiceSemejantes::EsConstante(const Literal& literal) const {
     });
 }
 
+void ÍndiceSemejantes::Recoge(Huella& huella, const std::array<double, Decena>& valores,
+                              std::size_t desde) const {
+    for (std::size_t k = 0; k < Decena && huella.cuántos < Decena; ++k) {
+        if (std::isnan(valores[k]))
+            continue;
+        huella.valores[huella.cuántos] = valores[k];
+        huella.lugares[huella.cuántos++] = static_cast<std::uint16_t>(desde + k);
+        if (!Redondea0(valores[k]))
+            ++huella.dicen;
+    }
+}
+
 ÍndiceSemejantes::Huella ÍndiceSemejantes::DevHuella(const Literal& literal) {
     PuntosDePrueba& puntos = DevPuntos(tabla_);
     Huella huella;
     if (EsConstante(literal)) {
+        double valor = 0;
+        puntos.Da(Conjunto::Primero, literal, 0, {&valor, 1});
         huella.constante = true;
-        huella.valores.fill(puntos.En(Conjunto::Primero, literal, 0));
-        for (std::size_t i = 0; i < Decena; ++i)
-            huella.lugares[i] = static_cast<std::uint16_t>(i);
-        huella.cuántos = std::isnan(huella.valores[0]) ? 0 : Decena;
+        huella.valores.fill(valor);
+        std::ranges::copy(std::views::iota(std::size_t{0}, Decena), huella.lugares.begin());
+        huella.cuántos = std::isnan(valor) ? 0 : Decena;
+        huella.dicen = Redondea0(valor) ? 0 : huella.cuántos;
     } else {
-        for (std::size_t i = 0; i < PuntosDePrueba::MáximosPuntos && huella.cuántos < Decena; ++i) {
-            const double valor = puntos.En(Conjunto::Primero, literal, i);
-            if (std::isnan(valor))
-                continue;
-            huella.valores[huella.cuántos] = valor;
-            huella.lugares[huella.cuántos++] = static_cast<std::uint16_t>(i);
-        }
+        for (std::size_t desde = 0;
+             desde < PuntosDePrueba::MáximosPuntos && huella.cuántos < Decena; desde += Decena)
+            Recoge(huella, puntos.En(Conjunto::Primero, literal, desde), desde);
     }
-    for (std::size_t i = 0; i < huella.cuántos; ++i)
-        if (!Redondea0(huella.valores[i]))
-            ++huella.dicen;
     PonClave(huella, literal);
     return huella;
 }
@@ -83,11 +89,9 @@ void ÍndiceSemejantes::PonClave(Huella& huella, const Literal& literal) {
         mezcla = (mezcla ^ huella.lugares[i]) * 0x9E3779B97F4A7C15U;
     if (huella.dicen == 0) {
         guía = 0;
-        for (std::size_t i = 0; i < Decena; ++i) {
-            const double valor = DevPuntos(tabla_).En(Conjunto::Segundo, literal, i);
+        for (const double valor : DevPuntos(tabla_).En(Conjunto::Segundo, literal, 0))
             if (!std::isnan(valor))
                 guía = std::max(guía, std::fabs(valor));
-        }
         if (Redondea0(guía))
             return; // nothing says anything: only the letter counts
     }
@@ -130,8 +134,7 @@ bool ÍndiceSemejantes::Confirma(const Literal& a, const Huella& ha, const Liter
     if (ha.cuántos != hb.cuántos || ha.lugares != hb.lugares)
         return false;
     for (std::size_t i = 0; i < ha.cuántos; ++i)
-        if (!SonElMismo(ha.valores[i], hb.valores[i]) &&
-            !(Redondea0(ha.valores[i]) && Redondea0(hb.valores[i])))
+        if (!SonElMismo(ha.valores[i], hb.valores[i]) && !Callan(ha.valores[i], hb.valores[i]))
             return false;
     const bool constantes = ha.constante && hb.constante;
     if (!constantes && ha.cuántos == Decena && !ConfirmaPrimero(a, b, ha.lugares.back() + 1U))
@@ -142,28 +145,30 @@ bool ÍndiceSemejantes::Confirma(const Literal& a, const Huella& ha, const Liter
 
 bool ÍndiceSemejantes::ConfirmaPrimero(const Literal& a, const Literal& b, std::size_t desde) {
     PuntosDePrueba& puntos = DevPuntos(tabla_);
-    for (std::size_t i = desde; i < PuntosDeConfirmación; ++i) {
-        const double va = puntos.En(Conjunto::Primero, a, i);
-        const double vb = puntos.En(Conjunto::Primero, b, i);
-        if (std::isnan(va) != std::isnan(vb))
-            return false;
-        if (!std::isnan(va) && !SonElMismo(va, vb) && !(Redondea0(va) && Redondea0(vb)))
-            return false;
+    for (std::size_t i = desde / Decena * Decena; i < PuntosDeConfirmación; i += Decena) {
+        const auto va = puntos.En(Conjunto::Primero, a, i);
+        const auto vb = puntos.En(Conjunto::Primero, b, i);
+        for (std::size_t k = desde > i ? desde - i : 0; k < Decena; ++k) {
+            if (std::isnan(va[k]) != std::isnan(vb[k]))
+                return false;
+            if (!std::isnan(va[k]) && !SonElMismo(va[k], vb[k]) && !Callan(va[k], vb[k]))
+                return false;
+        }
     }
     return true;
 }
 
 bool ÍndiceSemejantes::ConfirmaSegundo(const Literal& a, const Literal& b, bool bastaConCallar) {
     PuntosDePrueba& puntos = DevPuntos(tabla_);
+    const auto va = puntos.En(Conjunto::Segundo, a, 0);
+    const auto vb = puntos.En(Conjunto::Segundo, b, 0);
     std::size_t dicen = 0;
-    for (std::size_t i = 0; i < Decena; ++i) {
-        const double va = puntos.En(Conjunto::Segundo, a, i);
-        const double vb = puntos.En(Conjunto::Segundo, b, i);
-        if (std::isnan(va) != std::isnan(vb))
+    for (std::size_t k = 0; k < Decena; ++k) {
+        if (std::isnan(va[k]) != std::isnan(vb[k]))
             return false;
-        if (std::isnan(va) || (Redondea0(va) && Redondea0(vb)))
+        if (std::isnan(va[k]) || Callan(va[k], vb[k]))
             continue;
-        if (!SonElMismo(va, vb))
+        if (!SonElMismo(va[k], vb[k]))
             return false;
         ++dicen;
     }

@@ -16,6 +16,8 @@
 #include "engine/desarrollo/recolector.h"
 #include "engine/desarrollo/simbolos.h"
 
+#include <cmath>
+
 namespace quiralto {
 
 // Whether two literal parts are alike.
@@ -26,7 +28,7 @@ class ÍndiceSemejantes {
 public:
     static constexpr std::uint32_t Ninguno = ÍndiceHash::Ninguno;
 
-    explicit ÍndiceSemejantes(TablaSímbolos& tabla) : tabla_(tabla) {}
+    explicit ÍndiceSemejantes(TablaSímbolos& tabla);
 
     // A position whose literal part is like this one by its values, or Ninguno. `de` gives the
     // literal part at a position.
@@ -66,12 +68,15 @@ private:
     bool EsConstante(const Literal& literal) const;
     Huella DevHuella(const Literal& literal);
     void PonClave(Huella& huella, const Literal& literal);
-    bool Redondea0(double valor) const;
+    void Recoge(Huella& huella, const std::array<double, Decena>& valores, std::size_t desde) const;
+    bool Redondea0(double valor) const { return std::fabs(valor) < mitad_; }
+    bool Callan(double a, double b) const { return Redondea0(a) && Redondea0(b); }
     bool Confirma(const Literal& a, const Huella& ha, const Literal& b, const Huella& hb);
     bool ConfirmaPrimero(const Literal& a, const Literal& b, std::size_t desde);
     bool ConfirmaSegundo(const Literal& a, const Literal& b, bool bastaConCallar);
 
     TablaSímbolos& tabla_;
+    double mitad_; // of the last decimal place
     ÍndiceHash índice_;
     std::vector<Huella> huellas_; // by position
     Huella última_;

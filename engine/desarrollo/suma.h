@@ -50,6 +50,10 @@ public:
         return Exponente(a.Valor() + b.Valor());
     }
     friend Exponente operator*(const Exponente& a, const Exponente& b) {
+        Exponente producto;
+        if (a.denominador_ == 1 && b.denominador_ == 1 &&
+            !__builtin_mul_overflow(a.numerador_, b.numerador_, &producto.numerador_))
+            return producto;
         return Exponente(a.Valor() * b.Valor());
     }
     friend bool operator==(const Exponente&, const Exponente&) = default;

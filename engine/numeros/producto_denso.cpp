@@ -21,6 +21,8 @@ constexpr PrimoDeTransformada Primero{4179340454199820289U, 3}; // 29 * 2^57 + 1
 constexpr PrimoDeTransformada Segundo{1945555039024054273U, 5}; // 27 * 2^56 + 1
 
 Entero DesdeEnteroDoble(EnteroDoble valor) {
+    if (const auto corto = static_cast<std::int64_t>(valor); EnteroDoble{corto} == valor)
+        return corto;
     constexpr int Bits = 62;
     const auto alto = static_cast<std::int64_t>(valor >> Bits);
     const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));
