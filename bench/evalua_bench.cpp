@@ -1,5 +1,5 @@
 // Nanoseconds a point over 4801 points: the block and the scalar run, the same function as compiled
-// C++, and muParser.
+// C++, and muParser; and the block run beside the compiled function, in turns.
 
 #include "bench/apoyo.h"
 #include "bench/evalua_nativa.h"
@@ -10,6 +10,7 @@
 #include <benchmark/benchmark.h>
 #include <muParser.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -96,11 +97,39 @@ void MuParser(benchmark::State& estado) {
     Anota(estado);
 }
 
+double DevRazón(const Función& función) {
+    Curva banco;
+    const Programa programa = banco.Compila(función.texto);
+    const auto [bloque, nativa] = MideAVeces(
+        400,
+        [&] { EvalúaBloque(banco.contexto, programa, banco.equis, banco.valores, banco.fallos); },
+        [&] { función.nativa(banco.equis, banco.valores); });
+    return bloque / nativa;
+}
+
+// The time of a block run to that of the compiled function.
+void BloqueEntreNativa(benchmark::State& estado) {
+    for ([[maybe_unused]] auto vuelta : estado)
+        estado.counters["razón"] = DevRazón(FunciónDe(estado));
+    estado.SetLabel(FunciónDe(estado).texto);
+}
+
+void MediaGeométrica(benchmark::State& estado) {
+    for ([[maybe_unused]] auto vuelta : estado) {
+        double producto = 1;
+        for (const Función& función : Funciones)
+            producto *= DevRazón(función);
+        estado.counters["razón"] = std::pow(producto, 1 / static_cast<double>(Funciones.size()));
+    }
+}
+
 constexpr int Última = static_cast<int>(Funciones.size()) - 1;
 BENCHMARK(Nativa)->DenseRange(0, Última);
 BENCHMARK(Bloque)->DenseRange(0, Última);
 BENCHMARK(Escalar)->DenseRange(0, Última);
 BENCHMARK(MuParser)->DenseRange(0, Última);
+BENCHMARK(BloqueEntreNativa)->DenseRange(0, Última)->Iterations(1);
+BENCHMARK(MediaGeométrica)->Iterations(1);
 
 } // namespace
 } // namespace quiralto::bench

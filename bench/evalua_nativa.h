@@ -12,6 +12,6 @@ struct Función {
     void (*nativa)(std::span<const double> equis, std::span<double> valores);
 };
 
-extern const std::array<Función, 6> Funciones;
+extern const std::array<Función, 12> Funciones;
 
 } // namespace quiralto::bench

@@ -66,7 +66,7 @@ void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
     EscribeTodos(contexto, hoja, intervalo, false, ClaseHallazgo::Solución,
                  "'No se hallaron soluciones", [&](double comienzo) -> std::optional<Punto> {
                      const std::optional<Solución> r =
-                         buscador.Busca(comienzo, intervalo.b, intervalo.h);
+                         buscador.Busca(comienzo, intervalo.b, intervalo.h, Precisión::Texto);
                      if (!r)
                          return std::nullopt;
                      return Punto{*r, Hallazgo{ClaseHallazgo::Solución, f, intervalo.a, intervalo.b,
@@ -104,7 +104,7 @@ private:
 // rounded place. Nothing to tell where that sign is 0, or f or the second derivative has no value.
 std::optional<Punto> DevPuntoExtremo(FunciónDerivada& f, BuscadorDeSoluciones& primera, double a,
                                      const Intervalo& intervalo) {
-    const std::optional<Solución> r = primera.Busca(a, intervalo.b, intervalo.h);
+    const std::optional<Solución> r = primera.Busca(a, intervalo.b, intervalo.h, Precisión::Texto);
     if (!r)
         return std::nullopt;
     const double x = Val(r->texto);
@@ -137,7 +137,7 @@ void DevMínimos(Contexto& contexto, Hoja& hoja, const std::string& f, const Int
 // The next zero of the second derivative at or after a. Nothing to tell where f has no value.
 std::optional<Punto> DevPuntoInflexión(FunciónDerivada& f, BuscadorDeSoluciones& segunda, double a,
                                        const Intervalo& intervalo) {
-    const std::optional<Solución> r = segunda.Busca(a, intervalo.b, intervalo.h);
+    const std::optional<Solución> r = segunda.Busca(a, intervalo.b, intervalo.h, Precisión::Texto);
     if (!r)
         return std::nullopt;
     const double x = Val(r->texto);

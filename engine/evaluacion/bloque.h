@@ -2,10 +2,13 @@
 // Tested by evalua_test.cpp.
 #pragma once
 
+#include "engine/evaluacion/nucleos.h"
 #include "engine/evaluacion/plan.h"
 
 #include <array>
+#include <cstddef>
 #include <memory>
+#include <new>
 #include <span>
 #include <vector>
 
@@ -15,12 +18,8 @@ namespace quiralto {
 // cache.
 inline constexpr std::size_t TamañoFila = 256;
 
-// Where the rows of a run stand: the values of X and the results may be the caller's own arrays.
-using Filas = std::vector<double*>;
-
 class EjecutorDeBloques {
 public:
-    // The plan must outlive it.
     explicit EjecutorDeBloques(const Plan& plan);
 
     // Runs the plan over 1 to TamañoFila values. Afterwards HayFallo(i) tells, where HayFallos(),
@@ -31,23 +30,29 @@ public:
     bool HayFallo(std::size_t i) const { return fallos_[i]; }
 
 private:
-    // The row loops for the instruction set of this processor.
-    struct Procesador {
-        void (*EjecutaPaso)(std::size_t cantidad, const Filas&, const Paso&);
-        bool (*TodosFinitos)(std::size_t cantidad, const double*);
+    // A step with its rows; which of these are X and the result is told at each run.
+    struct PasoListo {
+        Núcleo núcleo;
+        FilasDePaso filas;
+        bool vigilado;
     };
-    static Procesador DevProcesador();
+    // Rows begin where a cache line does, so that no load reaches over two.
+    struct Línea {
+        alignas(64) std::array<double, 8> valores;
+    };
 
-    void Comprueba(const Paso& paso);
+    double* DevLugar(std::size_t lugar);
+    Fuente DevFuente(std::size_t operando);
+    void PonEquis(double* equis);
     void AnotaFallos(const double* fila);
 
-    const Plan& plan_;
-    std::unique_ptr<double[]> propias_; // one row behind the other
-    Filas filas_;
+    std::size_t cantidadConstantes_;
+    std::unique_ptr<Línea[]> propias_; // the row of X, the constants, and the rows
+    std::vector<PasoListo> pasos_;
+    std::vector<Fuente*> equis_; // whatever in pasos_ reads X
     std::array<bool, TamañoFila> fallos_{};
     bool hayFallos_ = false;
-    std::size_t cantidad_ = 0; // of values in the rows of the run, in whole lanes
-    Procesador procesador_ = DevProcesador();
+    std::size_t cantidad_ = 0; // of values in the rows of the run
 };
 
 } // namespace quiralto

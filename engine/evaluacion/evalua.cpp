@@ -2,10 +2,12 @@
 
 #include "engine/evaluacion/bloque.h"
 #include "engine/evaluacion/opera.h"
+#include "engine/evaluacion/reduce.h"
 
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <utility>
 
 namespace quiralto {
 namespace {
@@ -49,8 +51,10 @@ std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x)
 }
 
 struct EvaluadorDeBloques::Partes {
-    explicit Partes(const Programa& suyo)
-        : programa(suyo), porBloques(PlaneaBloque(suyo, plan)), ejecutor(plan) {}
+    explicit Partes(const Programa& original) : Partes(Reduce(original), original) {}
+    Partes(std::optional<Programa> reducido, const Programa& original)
+        : programa(reducido ? std::move(*reducido) : original),
+          porBloques(reducido && PlaneaBloque(programa, plan)), ejecutor(plan) {}
 
     Programa programa; // for the values that need the scalar run
     Plan plan;
@@ -64,29 +68,39 @@ EvaluadorDeBloques::EvaluadorDeBloques(const Programa& programa)
 
 EvaluadorDeBloques::~EvaluadorDeBloques() = default;
 
+std::optional<double> EvaluadorDeBloques::DevValor(Contexto& contexto, double x) {
+    return quiralto::DevValor(contexto, partes_->programa, x);
+}
+
 void EvaluadorDeBloques::Evalúa(Contexto& contexto, std::span<const double> equis,
                                 std::span<double> valores, std::span<std::int16_t> fallos) {
     assert(valores.size() == equis.size() && fallos.size() == equis.size());
     const std::int16_t errorAnterior = contexto.ErrorCódigo;
-    auto& [programa, plan, porBloques, ejecutor] = *partes_;
     for (std::size_t desde = 0; desde < equis.size(); desde += TamañoFila) {
         contexto.Vigila();
         const std::size_t cantidad = std::min(TamañoFila, equis.size() - desde);
-        if (porBloques) {
-            ejecutor.Ejecuta(equis.subspan(desde, cantidad), valores.subspan(desde, cantidad));
-            std::fill_n(fallos.subspan(desde).begin(), cantidad, std::int16_t{SinFallo});
-            if (!ejecutor.HayFallos())
-                continue;
-        }
-        for (std::size_t i = desde; i < desde + cantidad; ++i) {
-            if (porBloques && !ejecutor.HayFallo(i - desde))
-                continue;
-            contexto.ErrorCódigo = SinFallo;
-            valores[i] = EvalúaPrograma(contexto, programa, equis[i]);
-            fallos[i] = contexto.ErrorCódigo;
-        }
+        EvalúaTramo(contexto, equis.subspan(desde, cantidad), valores.subspan(desde, cantidad),
+                    fallos.subspan(desde, cantidad));
     }
     contexto.ErrorCódigo = errorAnterior;
+}
+
+void EvaluadorDeBloques::EvalúaTramo(Contexto& contexto, std::span<const double> equis,
+                                     std::span<double> valores, std::span<std::int16_t> fallos) {
+    auto& [programa, plan, porBloques, ejecutor] = *partes_;
+    if (porBloques) {
+        ejecutor.Ejecuta(equis, valores);
+        std::ranges::fill(fallos, std::int16_t{SinFallo});
+        if (!ejecutor.HayFallos())
+            return;
+    }
+    for (std::size_t i = 0; i < equis.size(); ++i) {
+        if (porBloques && !ejecutor.HayFallo(i))
+            continue;
+        contexto.ErrorCódigo = SinFallo;
+        valores[i] = EvalúaPrograma(contexto, programa, equis[i]);
+        fallos[i] = contexto.ErrorCódigo;
+    }
 }
 
 void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,

@@ -3,15 +3,17 @@
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace quiralto {
 namespace {
 
-// Points that are looked at one by one before the walk goes on by blocks, and how large a block is
-// at first and at most: roots that stand close make it no slower, and a long way is soon gone.
-constexpr std::size_t PrimerosSueltos = 4;
-constexpr std::size_t PrimerBloque = 16;
-constexpr std::size_t MáximoBloque = 256;
+// How many points of the walk are run over at once: at first about as many as the last search took,
+// since neighbouring roots stand alike, and then more and more, so that a long way is soon gone.
+constexpr std::size_t MenorBloque = 4;
+constexpr std::size_t MayorPrimerBloque = 32;
+constexpr std::size_t MayorBloque = 256;
 
 int Signo(double valor) {
     return (valor > 0) - (valor < 0);
@@ -20,13 +22,13 @@ int Signo(double valor) {
 } // namespace
 
 BuscadorDeSoluciones::BuscadorDeSoluciones(Contexto& contexto, const Programa& programa)
-    : contexto_(contexto), programa_(programa), bloques_(programa) {
+    : contexto_(contexto), función_(programa) {
 }
 
 // The sign of the program's value at x, or none where it has no value.
 std::optional<int> BuscadorDeSoluciones::DevSigno(double x) {
     contexto_.Vigila();
-    const std::optional<double> valor = DevValor(contexto_, programa_, x);
+    const std::optional<double> valor = función_.DevValor(contexto_, x);
     return valor ? std::optional(Signo(*valor)) : std::nullopt;
 }
 
@@ -38,38 +40,30 @@ void BuscadorDeSoluciones::EvalúaPasos(double x0, double b, double h, std::size
         equis_.push_back(x + h);
     valores_.resize(equis_.size());
     fallos_.resize(equis_.size());
-    if (equis_.size() >= PrimerBloque) {
-        bloques_.Evalúa(contexto_, equis_, valores_, fallos_);
-        return;
-    }
-    for (std::size_t i = 0; i < equis_.size(); ++i) {
-        contexto_.Vigila();
-        const std::optional<double> valor = DevValor(contexto_, programa_, equis_[i]);
-        valores_[i] = valor.value_or(0);
-        fallos_[i] = valor ? SinFallo : ArgumentoInválido;
-    }
+    if (!equis_.empty())
+        función_.Evalúa(contexto_, equis_, valores_, fallos_);
 }
 
 // The step from a on in which the sign changes, or that no longer changes the Double.
 std::optional<BuscadorDeSoluciones::Cambio> BuscadorDeSoluciones::BuscaCambio(double a, double b,
                                                                               double h, int signo) {
     double x0 = a;
-    for (std::size_t cantidad = 1, sueltos = 0; x0 <= b;) {
+    std::size_t cantidad = std::clamp(puntosAnteriores_ + 1, MenorBloque, MayorPrimerBloque);
+    for (puntosAnteriores_ = 0; x0 <= b; cantidad = std::min(cantidad * 5 / 4, MayorBloque)) {
         EvalúaPasos(x0, b, h, cantidad);
         if (equis_.empty())
             return Cambio{x0, x0};
-        for (std::size_t i = 0; i < equis_.size(); ++i) {
+        for (std::size_t i = 0; i < equis_.size(); ++i, ++puntosAnteriores_) {
             if (fallos_[i] == SinFallo && Signo(valores_[i]) != signo)
                 return Cambio{x0, equis_[i]};
             x0 = equis_[i];
         }
-        if (++sueltos >= PrimerosSueltos)
-            cantidad = std::clamp(2 * cantidad, PrimerBloque, MáximoBloque);
     }
     return std::nullopt;
 }
 
-std::optional<Solución> BuscadorDeSoluciones::Busca(double a, double b, double h) {
+std::optional<Solución> BuscadorDeSoluciones::Busca(double a, double b, double h,
+                                                    Precisión precisión) {
     b = CompruebaFinito(b + h);
     std::optional<int> signo;
     while (a <= b && !(signo = DevSigno(a))) {
@@ -79,29 +73,54 @@ std::optional<Solución> BuscadorDeSoluciones::Busca(double a, double b, double 
     }
     if (!signo)
         return std::nullopt;
-    std::optional<Cambio> cambio = BuscaCambio(a, b, h, *signo);
+    const std::optional<Cambio> cambio = BuscaCambio(a, b, h, *signo);
     if (!cambio || cambio->después > b)
         return std::nullopt;
-    // No step goes past the change: the rounding of a sum could otherwise step over a point where
-    // f only touches 0 and walk on with a step near nothing. The change itself is not asked again.
-    auto [x0, después] = *cambio;
-    for (;;) {
-        const double x = std::min(x0 + h, después);
-        if (x == x0)
-            return Solución{x0, TextoResultado(x0, contexto_.DígitosRedondeo)};
+    return Estrecha(*cambio, h, *signo, precisión);
+}
+
+// No step goes past the change: the rounding of a sum could otherwise step over a point where f
+// only touches 0 and walk on with a step near nothing. The change itself is not asked again.
+Solución BuscadorDeSoluciones::Estrecha(Cambio cambio, double h, int signo, Precisión precisión) {
+    auto& [antes, después] = cambio;
+    // Doubles further from each other have no text in common.
+    const double ancho =
+        precisión == Precisión::Texto ? 2 * std::pow(10, -contexto_.DígitosRedondeo) : 0;
+    for (double paso = h;;) {
+        const double x = std::min(antes + paso, después);
+        if (x == antes)
+            return {antes, TextoResultado(antes, contexto_.DígitosRedondeo)};
         const std::optional<int> nuevo = x == después ? std::nullopt : DevSigno(x);
-        if (x != después && (!nuevo || *nuevo == *signo)) {
-            x0 = x;
+        if (x != después && (!nuevo || *nuevo == signo)) {
+            antes = x;
         } else {
             después = x;
-            h /= 2;
+            paso /= 2;
         }
+        if (después - antes < ancho)
+            if (std::optional<Solución> cierta = DevSiCierta(cambio, h))
+                return *std::move(cierta);
     }
+}
+
+// The solution where the last Double before the change can have but one text, and the start behind
+// it is beyond the change, so that it does not depend on that Double. Between whole numbers, which
+// are not rounded, the rounding keeps the order.
+std::optional<Solución> BuscadorDeSoluciones::DevSiCierta(const Cambio& cambio, double paso) const {
+    const auto [antes, después] = cambio;
+    const int dígitos = contexto_.DígitosRedondeo;
+    if (Redondea(antes, dígitos) != Redondea(después, dígitos) ||
+        std::trunc(antes) != std::trunc(después) || antes == std::trunc(antes))
+        return std::nullopt;
+    Solución solución{antes, TextoResultado(antes, dígitos)};
+    if (Val(solución.texto) + paso > después)
+        return solución;
+    return std::nullopt;
 }
 
 std::optional<Solución> BuscaSolución(Contexto& contexto, const Programa& programa, double a,
                                       double b, double h) {
-    return BuscadorDeSoluciones(contexto, programa).Busca(a, b, h);
+    return BuscadorDeSoluciones(contexto, programa).Busca(a, b, h, Precisión::ÚltimoDoble);
 }
 
 std::optional<double> DevSiguienteComienzo(const Solución& solución, double h) {

@@ -10,9 +10,13 @@
 namespace quiralto {
 
 struct Solución {
-    double raíz;       // the largest Double reached before the change of sign
+    double raíz;       // a Double before the change of sign
     std::string texto; // rounded to DígitosRedondeo, with a leading blank if not negative
 };
+
+// How near the root is looked for: up to where its text is certain, and where the search for the
+// next one starts, or up to the largest Double before the change of sign, which has the same ones.
+enum class Precisión { Texto, ÚltimoDoble };
 
 // The commands divide the interval that they search into so many steps.
 inline constexpr int PasosDeBúsqueda = 1000;
@@ -28,7 +32,7 @@ public:
     // without a change of sign is found only where a sample falls on it exactly. None: no root.
     //
     // Leaves ErrorCódigo clear. Asks the watcher. Fault: run-time error 6 where b + h overflows.
-    std::optional<Solución> Busca(double a, double b, double h);
+    std::optional<Solución> Busca(double a, double b, double h, Precisión precisión);
 
 private:
     // A step that the sign does not outlast: from the last point before it to the one behind.
@@ -37,19 +41,21 @@ private:
         double después;
     };
     std::optional<int> DevSigno(double x);
+    Solución Estrecha(Cambio cambio, double h, int signo, Precisión precisión);
+    std::optional<Solución> DevSiCierta(const Cambio& cambio, double paso) const;
     std::optional<Cambio> BuscaCambio(double a, double b, double h, int signo);
     void EvalúaPasos(double x0, double b, double h, std::size_t cantidad);
 
     Contexto& contexto_;
-    Programa programa_;
-    EvaluadorDeBloques bloques_;
+    EvaluadorDeBloques función_;
     // The next points of the walk, with what the program gives there.
     std::vector<double> equis_;
     std::vector<double> valores_;
     std::vector<std::int16_t> fallos_;
+    std::size_t puntosAnteriores_ = 15; // that the last walk took, or a usual one
 };
 
-// The first root of the program, for a single search.
+// The first root of the program to the last Double, for a single search.
 std::optional<Solución> BuscaSolución(Contexto& contexto, const Programa& programa, double a,
                                       double b, double h);
 

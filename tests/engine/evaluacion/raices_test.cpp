@@ -230,24 +230,31 @@ TEST(BuscadorDeSoluciones, HallaTodasLasDeUnoAUnoConLosMismosBits) {
     constexpr int Semilla = 23;
     Banco banco;
     Generador generador(Semilla);
+    Generador dígitos(Semilla + 1);
     std::size_t halladas = 0;
     for (int i = 0; i < 1500; ++i) {
         const std::string texto = generador.Expresión(1 + generador.Hasta(8));
         const double a = generador.Real(-6, 3);
         const double b = a + generador.Real(0, 6);
         const double h = (b - a) / PasosDeBúsqueda;
+        banco.contexto.DígitosRedondeo = static_cast<int>(dígitos.Hasta(16));
         Programa programa = CompilaExpresión(texto);
         BuscadorDeSoluciones buscador(banco.contexto, programa);
         for (std::optional<double> comienzo = a; comienzo && *comienzo <= b;) {
             const auto esperada = BuscaUnoAUno(banco.contexto, programa, *comienzo, b, h);
-            const auto hallada = buscador.Busca(*comienzo, b, h);
-            ASSERT_EQ(hallada.has_value(), esperada.has_value())
+            const auto exacta = buscador.Busca(*comienzo, b, h, Precisión::ÚltimoDoble);
+            const auto hallada = buscador.Busca(*comienzo, b, h, Precisión::Texto);
+            ASSERT_EQ(exacta.has_value(), esperada.has_value())
                 << texto << " from " << *comienzo << " seed " << Semilla;
-            if (!hallada)
+            ASSERT_EQ(hallada.has_value(), esperada.has_value()) << texto << " seed " << Semilla;
+            if (!esperada)
                 break;
-            ASSERT_EQ(hallada->raíz, *esperada) << texto << " seed " << Semilla;
+            ASSERT_EQ(exacta->raíz, *esperada) << texto << " seed " << Semilla;
+            ASSERT_EQ(hallada->texto, TextoResultado(*esperada, banco.contexto.DígitosRedondeo))
+                << texto << " seed " << Semilla;
             ++halladas;
-            comienzo = DevSiguienteComienzo(*hallada, h);
+            comienzo = DevSiguienteComienzo(*exacta, h);
+            ASSERT_EQ(DevSiguienteComienzo(*hallada, h), comienzo) << texto << " seed " << Semilla;
         }
     }
     EXPECT_GT(halladas, 5000U);
