@@ -3,6 +3,7 @@
 #include "commands/datos_funcion.h"
 #include "engine/evaluacion/evalua.h"
 #include "engine/evaluacion/raices.h"
+#include "engine/evaluacion/reduce.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/deriva.h"
 #include "engine/numeros/numero.h"
@@ -85,8 +86,11 @@ public:
     const std::string& Texto() const { return texto_; }
     std::optional<double> DevValorFunción(double x) { return DevValor(contexto_, función_, x); }
     std::optional<double> DevCurvatura(double x) {
-        if (!segunda_)
+        if (!segunda_) {
             segunda_ = CompilaSegunda();
+            if (std::optional<Programa> reducida = Reduce(*segunda_))
+                segunda_ = std::move(reducida);
+        }
         return DevValor(contexto_, *segunda_, x);
     }
     Programa CompilaPrimera() const { return CompilaExpresión(textoPrimera_); }
@@ -173,7 +177,7 @@ void DevArea(Contexto& contexto, Hoja& hoja, const std::string& f, const Interva
     equis.push_back(b);
     std::vector<double> valores(equis.size());
     std::vector<std::int16_t> fallos(equis.size());
-    EvalúaBloque(contexto, programa, equis, valores, fallos);
+    EvalúaBloque(contexto, programa, equis, valores, fallos, Causa::Ninguna);
     const auto altura = [&](std::size_t i) {
         return fallos[i] == SinFallo ? std::fabs(valores[i]) : 0;
     };

@@ -73,20 +73,22 @@ std::optional<double> EvaluadorDeBloques::DevValor(Contexto& contexto, double x)
 }
 
 void EvaluadorDeBloques::Evalúa(Contexto& contexto, std::span<const double> equis,
-                                std::span<double> valores, std::span<std::int16_t> fallos) {
+                                std::span<double> valores, std::span<std::int16_t> fallos,
+                                Causa causa) {
     assert(valores.size() == equis.size() && fallos.size() == equis.size());
     const std::int16_t errorAnterior = contexto.ErrorCódigo;
     for (std::size_t desde = 0; desde < equis.size(); desde += TamañoFila) {
         contexto.Vigila();
         const std::size_t cantidad = std::min(TamañoFila, equis.size() - desde);
         EvalúaTramo(contexto, equis.subspan(desde, cantidad), valores.subspan(desde, cantidad),
-                    fallos.subspan(desde, cantidad));
+                    fallos.subspan(desde, cantidad), causa);
     }
     contexto.ErrorCódigo = errorAnterior;
 }
 
 void EvaluadorDeBloques::EvalúaTramo(Contexto& contexto, std::span<const double> equis,
-                                     std::span<double> valores, std::span<std::int16_t> fallos) {
+                                     std::span<double> valores, std::span<std::int16_t> fallos,
+                                     Causa causa) {
     auto& [programa, plan, porBloques, ejecutor] = *partes_;
     if (porBloques) {
         ejecutor.Ejecuta(equis, valores);
@@ -97,6 +99,10 @@ void EvaluadorDeBloques::EvalúaTramo(Contexto& contexto, std::span<const double
     for (std::size_t i = 0; i < equis.size(); ++i) {
         if (porBloques && !ejecutor.HayFallo(i))
             continue;
+        if (porBloques && causa == Causa::Ninguna) {
+            fallos[i] = ArgumentoInválido;
+            continue;
+        }
         contexto.ErrorCódigo = SinFallo;
         valores[i] = EvalúaPrograma(contexto, programa, equis[i]);
         fallos[i] = contexto.ErrorCódigo;
@@ -104,8 +110,8 @@ void EvaluadorDeBloques::EvalúaTramo(Contexto& contexto, std::span<const double
 }
 
 void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
-                  std::span<double> valores, std::span<std::int16_t> fallos) {
-    EvaluadorDeBloques(programa).Evalúa(contexto, equis, valores, fallos);
+                  std::span<double> valores, std::span<std::int16_t> fallos, Causa causa) {
+    EvaluadorDeBloques(programa).Evalúa(contexto, equis, valores, fallos, causa);
 }
 
 } // namespace quiralto

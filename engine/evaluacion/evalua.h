@@ -26,6 +26,10 @@ double EvalúaPrograma(Contexto& contexto, Programa& programa, double x);
 // The value at x, or none where there is a fault. Leaves ErrorCódigo clear.
 std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x);
 
+// What a block run tells of a fault: its code, for which the value is run again by itself, or only
+// that there is one, by some code that is not 0.
+enum class Causa { Código, Ninguna };
+
 // Runs a program over many values of X at once; made once for many runs.
 class EvaluadorDeBloques {
 public:
@@ -39,7 +43,7 @@ public:
     // with one). The three spans have one length. contexto.ErrorCódigo is left alone; the watcher
     // is asked between blocks.
     void Evalúa(Contexto& contexto, std::span<const double> equis, std::span<double> valores,
-                std::span<std::int16_t> fallos);
+                std::span<std::int16_t> fallos, Causa causa = Causa::Código);
 
     // The value at x, or none where there is a fault: what DevValor gives of the program, and in
     // less time where it says a thing twice. Leaves ErrorCódigo clear.
@@ -48,7 +52,7 @@ public:
 private:
     // One to TamañoFila values.
     void EvalúaTramo(Contexto& contexto, std::span<const double> equis, std::span<double> valores,
-                     std::span<std::int16_t> fallos);
+                     std::span<std::int16_t> fallos, Causa causa);
 
     struct Partes;
     std::unique_ptr<Partes> partes_;
@@ -56,6 +60,7 @@ private:
 
 // The same for a single run.
 void EvalúaBloque(Contexto& contexto, const Programa& programa, std::span<const double> equis,
-                  std::span<double> valores, std::span<std::int16_t> fallos);
+                  std::span<double> valores, std::span<std::int16_t> fallos,
+                  Causa causa = Causa::Código);
 
 } // namespace quiralto

@@ -58,7 +58,7 @@ std::vector<Punto> CargaPuntos(Contexto& contexto, const Programa& programa, con
     const std::vector<double> equis = DevEquis(ventana, cantidadPuntos);
     std::vector<double> valores(equis.size());
     std::vector<std::int16_t> fallos(equis.size());
-    EvalúaBloque(contexto, programa, equis, valores, fallos);
+    EvalúaBloque(contexto, programa, equis, valores, fallos, Causa::Ninguna);
     std::vector<Punto> puntos;
     puntos.reserve(equis.size());
     for (std::size_t i = 0; i < equis.size(); ++i)

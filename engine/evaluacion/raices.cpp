@@ -32,57 +32,55 @@ std::optional<int> BuscadorDeSoluciones::DevSigno(double x) {
     return valor ? std::optional(Signo(*valor)) : std::nullopt;
 }
 
-// The points that follow x0 as long as they may be reached: up to the first beyond b, and up to the
-// first that the step no longer changes.
-void BuscadorDeSoluciones::EvalúaPasos(double x0, double b, double h, std::size_t cantidad) {
+// The points of the walk from x on: up to b, and up to the first that the step does not change.
+void BuscadorDeSoluciones::EvalúaPasos(double x, double b, double h, std::size_t cantidad) {
     equis_.clear();
-    for (double x = x0; x <= b && equis_.size() < cantidad && x + h != x; x += h)
-        equis_.push_back(x + h);
+    while (x <= b && equis_.size() < cantidad) {
+        equis_.push_back(x);
+        if (x + h == x)
+            break;
+        x += h;
+    }
     valores_.resize(equis_.size());
     fallos_.resize(equis_.size());
-    if (!equis_.empty())
-        función_.Evalúa(contexto_, equis_, valores_, fallos_);
+    función_.Evalúa(contexto_, equis_, valores_, fallos_, Causa::Ninguna);
 }
 
-// The step from a on in which the sign changes, or that no longer changes the Double.
+// The first step, from the first point with a value on, in which the sign changes or that does not
+// change the Double.
 std::optional<BuscadorDeSoluciones::Cambio> BuscadorDeSoluciones::BuscaCambio(double a, double b,
-                                                                              double h, int signo) {
-    double x0 = a;
+                                                                              double h) {
+    std::optional<int> signo;
+    double antes = a;
     std::size_t cantidad = std::clamp(puntosAnteriores_ + 1, MenorBloque, MayorPrimerBloque);
-    for (puntosAnteriores_ = 0; x0 <= b; cantidad = std::min(cantidad * 5 / 4, MayorBloque)) {
-        EvalúaPasos(x0, b, h, cantidad);
-        if (equis_.empty())
-            return Cambio{x0, x0};
+    puntosAnteriores_ = 0;
+    for (double x = a; x <= b; x = antes + h) {
+        EvalúaPasos(x, b, h, cantidad);
         for (std::size_t i = 0; i < equis_.size(); ++i, ++puntosAnteriores_) {
-            if (fallos_[i] == SinFallo && Signo(valores_[i]) != signo)
-                return Cambio{x0, equis_[i]};
-            x0 = equis_[i];
+            const int suyo = Signo(valores_[i]);
+            if (fallos_[i] == SinFallo && suyo != signo.value_or(suyo))
+                return Cambio{antes, equis_[i], *signo};
+            if (fallos_[i] == SinFallo)
+                signo = suyo;
+            antes = equis_[i];
         }
+        if (antes + h == antes)
+            return signo ? std::optional(Cambio{antes, antes, *signo}) : std::nullopt;
+        cantidad = std::min(cantidad * 5 / 4, MayorBloque);
     }
     return std::nullopt;
 }
 
 std::optional<Solución> BuscadorDeSoluciones::Busca(double a, double b, double h,
                                                     Precisión precisión) {
-    b = CompruebaFinito(b + h);
-    std::optional<int> signo;
-    while (a <= b && !(signo = DevSigno(a))) {
-        if (a + h == a)
-            return std::nullopt;
-        a += h;
-    }
-    if (!signo)
-        return std::nullopt;
-    const std::optional<Cambio> cambio = BuscaCambio(a, b, h, *signo);
-    if (!cambio || cambio->después > b)
-        return std::nullopt;
-    return Estrecha(*cambio, h, *signo, precisión);
+    const std::optional<Cambio> cambio = BuscaCambio(a, CompruebaFinito(b + h), h);
+    return cambio ? std::optional(Estrecha(*cambio, h, precisión)) : std::nullopt;
 }
 
 // No step goes past the change: the rounding of a sum could otherwise step over a point where f
 // only touches 0 and walk on with a step near nothing. The change itself is not asked again.
-Solución BuscadorDeSoluciones::Estrecha(Cambio cambio, double h, int signo, Precisión precisión) {
-    auto& [antes, después] = cambio;
+Solución BuscadorDeSoluciones::Estrecha(Cambio cambio, double h, Precisión precisión) {
+    auto& [antes, después, signo] = cambio;
     // Doubles further from each other have no text in common.
     const double ancho =
         precisión == Precisión::Texto ? 2 * std::pow(10, -contexto_.DígitosRedondeo) : 0;
@@ -107,7 +105,7 @@ Solución BuscadorDeSoluciones::Estrecha(Cambio cambio, double h, int signo, Pre
 // it is beyond the change, so that it does not depend on that Double. Between whole numbers, which
 // are not rounded, the rounding keeps the order.
 std::optional<Solución> BuscadorDeSoluciones::DevSiCierta(const Cambio& cambio, double paso) const {
-    const auto [antes, después] = cambio;
+    const auto [antes, después, signo] = cambio;
     const int dígitos = contexto_.DígitosRedondeo;
     if (Redondea(antes, dígitos) != Redondea(después, dígitos) ||
         std::trunc(antes) != std::trunc(después) || antes == std::trunc(antes))

@@ -39,12 +39,13 @@ private:
     struct Cambio {
         double antes;
         double después;
+        int signo; // of the points up to the change
     };
     std::optional<int> DevSigno(double x);
-    Solución Estrecha(Cambio cambio, double h, int signo, Precisión precisión);
+    Solución Estrecha(Cambio cambio, double h, Precisión precisión);
     std::optional<Solución> DevSiCierta(const Cambio& cambio, double paso) const;
-    std::optional<Cambio> BuscaCambio(double a, double b, double h, int signo);
-    void EvalúaPasos(double x0, double b, double h, std::size_t cantidad);
+    std::optional<Cambio> BuscaCambio(double a, double b, double h);
+    void EvalúaPasos(double x, double b, double h, std::size_t cantidad);
 
     Contexto& contexto_;
     EvaluadorDeBloques función_;

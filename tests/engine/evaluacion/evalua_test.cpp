@@ -233,16 +233,24 @@ void CompruebaBloque(const std::string& texto, const std::vector<double>& equis)
     banco.contexto.generador.Siembra(1);
     EvalúaBloque(banco.contexto, programa, equis, valores, fallos);
     ASSERT_EQ(banco.contexto.ErrorCódigo, 77) << texto;
+    std::vector<double> valoresSinCausa(equis.size(), 12345);
+    std::vector<std::int16_t> fallosSinCausa(equis.size(), 99);
+    banco.contexto.generador.Siembra(1);
+    EvalúaBloque(banco.contexto, programa, equis, valoresSinCausa, fallosSinCausa, Causa::Ninguna);
+    ASSERT_EQ(banco.contexto.ErrorCódigo, 77) << texto;
     banco.contexto.generador.Siembra(1);
     Programa copia = programa;
     for (std::size_t i = 0; i < equis.size(); ++i) {
         banco.contexto.ErrorCódigo = SinFallo;
         const double valor = EvalúaPrograma(banco.contexto, copia, equis[i]);
         ASSERT_EQ(fallos[i], banco.contexto.ErrorCódigo) << texto << " X=" << equis[i];
-        if (fallos[i] == SinFallo) {
-            ASSERT_EQ(std::bit_cast<std::uint64_t>(valores[i]), std::bit_cast<std::uint64_t>(valor))
+        ASSERT_EQ(fallosSinCausa[i] == SinFallo, fallos[i] == SinFallo)
+            << texto << " X=" << equis[i];
+        if (fallos[i] != SinFallo)
+            continue;
+        for (const double suyo : {valores[i], valoresSinCausa[i]})
+            ASSERT_EQ(std::bit_cast<std::uint64_t>(suyo), std::bit_cast<std::uint64_t>(valor))
                 << texto << " X=" << equis[i];
-        }
     }
 }
 
