@@ -106,6 +106,31 @@ void CreaÓrdenes(QObject& padre, Acciones& a) {
     }
 }
 
+void CreaEdición(QObject& padre, Acciones& a) {
+    const auto crea = [&padre](const char* título, const char* nombre,
+                               const QKeySequence& atajo = {}) {
+        return Crea(padre, QString::fromUtf8(título), QString::fromUtf8(nombre), atajo);
+    };
+    a.Deshacer = crea("&Deshacer", "Deshacer", QKeySequence(Qt::CTRL | Qt::Key_Z));
+    a.Rehacer = crea("&Rehacer", "Rehacer", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    a.Cortar = crea("Cor&tar", "Cortar", QKeySequence(Qt::CTRL | Qt::Key_X));
+    a.Copiar = crea("&Copiar", "Copiar", QKeySequence(Qt::CTRL | Qt::Key_C));
+    a.Pegar = crea("&Pegar", "Pegar", QKeySequence(Qt::CTRL | Qt::Key_V));
+    a.CopiarTodo =
+        crea("Copiar t&odo", "CopiarTodo", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    a.CopiarTodo->setStatusTip(
+        QStringLiteral("La hoja entera, con las funciones y la ventana como comentarios"));
+    a.ComentarLíneas = crea("Comentar o descomentar &líneas", "ComentarLíneas",
+                            QKeySequence(Qt::CTRL | Qt::Key_Apostrophe));
+    a.ComentarDatosAnteriores = crea("Comentar los datos &anteriores", "ComentarDatosAnteriores",
+                                     QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A));
+    a.ComentarDatosAnteriores->setStatusTip(
+        QStringLiteral("Las líneas de datos que hay sobre la del cursor dejan de leerse"));
+    a.RepetirOrden = crea("R&epetir última orden", "RepetirOrden", QKeySequence(Qt::Key_F5));
+    a.RepetirOrden->setEnabled(false);
+    a.BuscarOrden = crea("&Buscar orden…", "BuscarOrden", QKeySequence(Qt::CTRL | Qt::Key_K));
+}
+
 } // namespace
 
 Acciones CreaAcciones(QObject& padre) {
@@ -122,6 +147,7 @@ Acciones CreaAcciones(QObject& padre) {
                        QKeySequence(Qt::Key_F1));
     a.Manual = Crea(padre, QStringLiteral("&Manual"), QStringLiteral("Manual"));
     a.AcercaDe = Crea(padre, QStringLiteral("Acerca de"), QStringLiteral("AcercaDe"));
+    CreaEdición(padre, a);
     CreaÓrdenes(padre, a);
     return a;
 }

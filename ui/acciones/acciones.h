@@ -32,6 +32,16 @@ struct Acciones {
     QAction* ImprimirTexto;
     QAction* Salir;
     QAction* CopiarImagen;
+    QAction* Deshacer;
+    QAction* Rehacer;
+    QAction* Cortar;
+    QAction* Copiar;
+    QAction* Pegar;
+    QAction* CopiarTodo;
+    QAction* RepetirOrden;
+    QAction* ComentarLíneas;
+    QAction* ComentarDatosAnteriores;
+    QAction* BuscarOrden;
     QAction* Contenido;
     QAction* Manual;
     QAction* AcercaDe;

@@ -32,6 +32,16 @@ void CreaMenúArchivo(QMenu& menú, const Acciones& acciones) {
     menú.addAction(acciones.Salir);
 }
 
+void CreaMenúEdición(QMenu& menú, const Acciones& acciones) {
+    Añade(menú, std::array{acciones.Deshacer, acciones.Rehacer});
+    menú.addSeparator();
+    Añade(menú, std::array{acciones.Cortar, acciones.Copiar, acciones.Pegar, acciones.CopiarTodo});
+    menú.addSeparator();
+    Añade(menú, std::array{acciones.ComentarLíneas, acciones.ComentarDatosAnteriores});
+    menú.addSeparator();
+    Añade(menú, std::array{acciones.RepetirOrden, acciones.BuscarOrden});
+}
+
 void CreaMenúGráfica(QMenu& menú, const Acciones& acciones) {
     Añade(AñadeMenú(menú, QStringLiteral("&Zoom Gráfica"), QStringLiteral("ZoomGráfica")),
           acciones.ZoomGráfica);
@@ -72,16 +82,18 @@ void CreaMenúHoja(QMenu& menú, const Acciones& acciones) {
 
 } // namespace
 
-QMenu& CreaMenús(QMenuBar& barra, const Acciones& acciones) {
+Menús CreaMenús(QMenuBar& barra, const Acciones& acciones) {
     CreaMenúArchivo(AñadeMenú(barra, QStringLiteral("&Archivo"), QStringLiteral("MenúArchivo")),
                     acciones);
+    QMenu& edición = AñadeMenú(barra, QStringLiteral("&Edición"), QStringLiteral("MenúEdición"));
+    CreaMenúEdición(edición, acciones);
     CreaMenúGráfica(AñadeMenú(barra, QStringLiteral("&Gráfica"), QStringLiteral("MenúGráfica")),
                     acciones);
     QMenu& hoja = AñadeMenú(barra, QStringLiteral("&Hoja"), QStringLiteral("MenúHoja"));
     CreaMenúHoja(hoja, acciones);
     QMenu& ayuda = AñadeMenú(barra, QStringLiteral("A&yuda"), QStringLiteral("MenúAyuda"));
     Añade(ayuda, std::array{acciones.Contenido, acciones.Manual, acciones.AcercaDe});
-    return hoja;
+    return {edición, hoja};
 }
 
 } // namespace quiralto

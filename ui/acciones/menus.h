@@ -8,8 +8,13 @@
 
 namespace quiralto {
 
-// Fills the bar and returns the menu of the worksheet's commands: a submenu for every family, in
-// the order of the program's menus.
-QMenu& CreaMenús(QMenuBar& barra, const Acciones& acciones);
+// Those of the menus whose opening is waited for.
+struct Menús {
+    QMenu& edición;
+    QMenu& hoja; // the worksheet's commands: a submenu for every family, in the program's order
+};
+
+// Fills the bar.
+Menús CreaMenús(QMenuBar& barra, const Acciones& acciones);
 
 } // namespace quiralto

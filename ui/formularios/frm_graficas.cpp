@@ -1,13 +1,17 @@
 #include "ui/formularios/frm_graficas.h"
 
 #include "ui/acciones/barra.h"
+#include "ui/acciones/buscar_orden.h"
 #include "ui/acciones/menus.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/edicion.h"
 #include "ui/formularios/frm_acerca_de.h"
 #include "ui/formularios/frm_manual.h"
 #include "ui/formularios/impresion_grafica.h"
 #include "ui/formularios/impresion_texto.h"
+#include "ui/grafica/datos_hoja.h"
+#include "ui/hoja/edita_lineas.h"
 #include "ui/hoja/lector_estado.h"
 
 #include <QClipboard>
@@ -76,6 +80,7 @@ FrmGráficas::FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Imp
     CreaControl();
     ConectaAccionesGráfica();
     ConectaOtrasAcciones();
+    ConectaEdición();
     ConectaLectura();
     txtSalida_->setFocus();
     PonTamaño();
@@ -140,7 +145,9 @@ void FrmGráficas::CreaBarraEstado() {
 }
 
 void FrmGráficas::CreaMenúsYBarra() {
-    menúHoja_ = &CreaMenús(*menuBar(), acciones_);
+    const Menús menús = CreaMenús(*menuBar(), acciones_);
+    menúEdición_ = &menús.edición;
+    menúHoja_ = &menús.hoja;
     CreaBarraHerramientas(*addToolBar(QStringLiteral("Barra de herramientas")), acciones_);
 }
 
@@ -208,6 +215,36 @@ void FrmGráficas::ConectaOtrasAcciones() {
     for (std::size_t i = 0; i < órdenes.size(); ++i)
         connect(acciones_.órdenes.at(i), &QAction::triggered, ejecutor_,
                 [ejecutor = ejecutor_, texto = órdenes[i].texto] { ejecutor->Ejecuta(texto); });
+}
+
+void FrmGráficas::ConectaEdición() {
+    new Edición(acciones_, *menúEdición_, *txtSalida_, this);
+    connect(acciones_.CopiarTodo, &QAction::triggered, this, [this] { CopiarTodo_Click(); });
+    connect(acciones_.ComentarLíneas, &QAction::triggered, txtSalida_,
+            [hoja = txtSalida_] { ComentaODescomenta(*hoja); });
+    connect(acciones_.ComentarDatosAnteriores, &QAction::triggered, txtSalida_,
+            [hoja = txtSalida_] { ComentaDatosAnteriores(*hoja); });
+    connect(acciones_.RepetirOrden, &QAction::triggered, ejecutor_, &Ejecutor::Repite);
+    connect(acciones_.BuscarOrden, &QAction::triggered, this, [this] { BuscarOrden_Click(); });
+    connect(ejecutor_, &Ejecutor::terminada, this, [this] { AlAcabarOrden(); });
+}
+
+// With what draws the graph, so that both can be had again from the copy.
+void FrmGráficas::CopiarTodo_Click() {
+    const std::string cabecera =
+        DevCabecera(control_->DevFunciones(), control_->DevEscena().cuadro.ventana);
+    QGuiApplication::clipboard()->setText(DevQString(ConLf(cabecera + txtSalida_->DevTexto())));
+}
+
+void FrmGráficas::BuscarOrden_Click() {
+    if (buscarOrden_ == nullptr)
+        buscarOrden_ = new BuscarOrden(acciones_.órdenes, this);
+    buscarOrden_->Abre();
+}
+
+void FrmGráficas::AlAcabarOrden() {
+    acciones_.RepetirOrden->setEnabled(true);
+    acciones_.RepetirOrden->setStatusTip(DevQString(ejecutor_->DevÚltima()));
 }
 
 void FrmGráficas::ConectaLectura() {

@@ -55,6 +55,10 @@ private:
     void Imprime(const Documento& documento);
     template <typename Formulario> void Muestra(QPointer<Formulario>& formulario);
     void LeeHoja();
+    void CopiarTodo_Click();
+    void BuscarOrden_Click();
+    void AlAcabarOrden();
+    void ConectaEdición();
 
     Contexto& contexto_;
     Impresora& impresora_;
@@ -75,6 +79,8 @@ private:
     // Goes with the members, before the controls that speak to it.
     std::unique_ptr<ControlGráfica> control_;
     QMenu* menúHoja_ = nullptr;
+    QMenu* menúEdición_ = nullptr;
+    class BuscarOrden* buscarOrden_ = nullptr; // made on first use
     QPointer<FrmAyuda> ayuda_;
     QPointer<class FrmManual> manual_;
     QPointer<class FrmAcercaDe> acercaDe_;

@@ -21,9 +21,10 @@ void Ejecutor::Corre(Hoja& hoja, std::string_view orden) {
 void Ejecutor::Ejecuta(std::string_view orden) {
     if (enMarcha_)
         return;
+    última_ = std::string(orden);
     const std::string anterior = hoja_.DevTexto();
     Hoja hoja(anterior);
-    Corre(hoja, orden);
+    Corre(hoja, última_);
     // Commands only append.
     const std::string_view salida = std::string_view(hoja.texto).substr(anterior.size());
     if (!salida.empty())

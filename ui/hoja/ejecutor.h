@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,6 +48,10 @@ public:
     void Ejecuta(std::string_view orden);
     bool EnMarcha() const { return enMarcha_; }
 
+    // The last command that was run, whether it was refused, cancelled or neither.
+    std::string_view DevÚltima() const { return última_; }
+    void Repite() { Ejecuta(última_); }
+
     // Does it now, or once the running command has ended.
     void CuandoAcabe(std::function<void()> trabajo);
 
@@ -61,6 +66,7 @@ private:
     VigilanteÓrdenes& vigilante_;
     CajaHoja& hoja_;
     bool enMarcha_ = false;
+    std::string última_;
     std::vector<std::function<void()>> pendientes_;
 };
 
