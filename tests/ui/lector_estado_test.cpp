@@ -1,10 +1,13 @@
 // What the status bar reads from the worksheet.
 
 #include "commands/hoja.h"
+#include "commands/ordenes.h"
 #include "tests/ui/ventana_de_prueba.h"
 #include "ui/hoja/lector_estado.h"
 
 #include <QMenu>
+
+#include <set>
 
 namespace quiralto {
 namespace {
@@ -37,7 +40,7 @@ TEST(LectorEstado, DiceLoQueHayComoLoLeeríaUnaOrden) {
     };
     Banco banco;
     for (const auto& caso : casos)
-        EXPECT_EQ(DevLectura(banco.contexto, ConCrLf(caso.hoja)), caso.lectura) << caso.hoja;
+        EXPECT_EQ(LeeHoja(banco.contexto, ConCrLf(caso.hoja)).texto, caso.lectura) << caso.hoja;
     EXPECT_TRUE(banco.TomaMensajes().empty());
     EXPECT_EQ(banco.contexto.ErrorCódigo, SinFallo);
 }
@@ -47,9 +50,61 @@ TEST(LectorEstado, NoLeeMásDe64KiB) {
     std::string hoja;
     for (int i = 0; i < 1'000'000; ++i)
         hoja += "1\r\n";
-    const std::string lectura = DevLectura(banco.contexto, hoja);
+    const std::string lectura = LeeHoja(banco.contexto, hoja).texto;
     EXPECT_TRUE(lectura.starts_with("Al menos 218")) << lectura;
     EXPECT_LT(lectura.size(), 200U);
+    const std::string línea = "X" + std::string(100'000, '+') + "X";
+    EXPECT_EQ(LeeHoja(banco.contexto, línea).texto, "Más de 64 KiB en una línea");
+    EXPECT_FALSE(LeeHoja(banco.contexto, línea).errónea);
+}
+
+TEST(LectorEstado, DiceQuéLíneaNoLeeríaNinguna) {
+    const struct {
+        const char* hoja;
+        std::optional<std::size_t> errónea;
+    } casos[] = {
+        {"", {}},
+        {"X^2-4,-5,5", {}},
+        {"X^2,5,-5", 0},
+        {"'nota\n2X", 0},
+        {"X(1)=2\n'nota\nX(1)=2*+", 1},
+        {"12,18", {}},
+        {"X^2\nX^3", {}},
+    };
+    Banco banco;
+    for (const auto& caso : casos)
+        EXPECT_EQ(LeeHoja(banco.contexto, ConCrLf(caso.hoja)).errónea, caso.errónea) << caso.hoja;
+}
+
+TEST(LectorEstado, SonPosiblesLasÓrdenesQueLeeríanLosDatos) {
+    const auto posibles = [](std::string_view hoja) {
+        Banco banco;
+        std::set<std::string_view> textos;
+        for (const std::size_t i : DevÓrdenesPosibles(banco.contexto, ConCrLf(hoja)))
+            textos.insert(DevÓrdenes()[i].texto);
+        EXPECT_TRUE(banco.TomaMensajes().empty());
+        return textos;
+    };
+    using Textos = std::set<std::string_view>;
+    EXPECT_EQ(posibles(""), Textos{});
+    EXPECT_EQ(posibles("'X^2"), Textos{});
+    EXPECT_EQ(posibles("X^2,5,-5"), (Textos{"Máximo común divisor función racional",
+                                            "Mínimo común múltiplo función racional"}));
+    EXPECT_EQ(posibles("2X"), Textos{});
+    EXPECT_EQ(posibles("X^2-4,-5,5"),
+              (Textos{"Hallar soluciones ecuación", "Hallar máximos", "Hallar mínimos",
+                      "Hallar puntos de inflexión", "Hallar área", "Hallar secante",
+                      "Factorizar función racional", "Máximo común divisor función racional",
+                      "Mínimo común múltiplo función racional"}));
+    EXPECT_EQ(posibles("X(1)=2\nX(2)=3"), (Textos{"Resolver sistema lineal"}));
+    EXPECT_TRUE(posibles("SIN(X)").contains("Derivar"));
+    EXPECT_TRUE(posibles("SIN(X)").contains("Desarrollo completo multivariable"));
+    EXPECT_TRUE(posibles("360").contains("Hallar divisores"));
+    EXPECT_FALSE(posibles("360,12").contains("Hallar divisores"));
+    EXPECT_EQ(posibles(std::string(100'000, '1')), Textos{});
+    // each takes its own example
+    for (const Orden& orden : DevÓrdenes())
+        EXPECT_TRUE(posibles(ConLf(orden.ejemplo)).contains(orden.texto)) << orden.texto;
 }
 
 class Lectura : public VentanaDePrueba {

@@ -128,6 +128,10 @@ void CreaEdición(QObject& padre, Acciones& a) {
         QStringLiteral("Las líneas de datos que hay sobre la del cursor dejan de leerse"));
     a.RepetirOrden = crea("R&epetir última orden", "RepetirOrden", QKeySequence(Qt::Key_F5));
     a.RepetirOrden->setEnabled(false);
+    a.QuitarMarcas = crea("&Quitar marcas", "QuitarMarcas");
+    a.QuitarMarcas->setStatusTip(
+        QStringLiteral("Lo que halló la última orden deja de señalarse en la gráfica"));
+    a.QuitarMarcas->setEnabled(false);
     a.BuscarOrden = crea("&Buscar orden…", "BuscarOrden", QKeySequence(Qt::CTRL | Qt::Key_K));
 }
 

@@ -42,6 +42,7 @@ struct Acciones {
     QAction* ComentarLíneas;
     QAction* ComentarDatosAnteriores;
     QAction* BuscarOrden;
+    QAction* QuitarMarcas;
     QAction* Contenido;
     QAction* Manual;
     QAction* AcercaDe;

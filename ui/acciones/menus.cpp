@@ -62,6 +62,8 @@ void CreaMenúGráfica(QMenu& menú, const Acciones& acciones) {
     Añade(AñadeMenú(menú, QStringLiteral("&Cifras redondeo en números"),
                     QStringLiteral("RedondeoNúmeros")),
           acciones.RedondeoNúmeros);
+    menú.addSeparator();
+    menú.addAction(acciones.QuitarMarcas);
 }
 
 QMenu& DevFamilia(QMenu& menú, std::string_view familia) {
@@ -81,6 +83,10 @@ void CreaMenúHoja(QMenu& menú, const Acciones& acciones) {
 }
 
 } // namespace
+
+std::span<const std::string_view> DevFamilias() {
+    return Familias;
+}
 
 Menús CreaMenús(QMenuBar& barra, const Acciones& acciones) {
     CreaMenúArchivo(AñadeMenú(barra, QStringLiteral("&Archivo"), QStringLiteral("MenúArchivo")),

@@ -6,7 +6,13 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <span>
+#include <string_view>
+
 namespace quiralto {
+
+// The titles of the commands' menus, in the order in which they stand.
+std::span<const std::string_view> DevFamilias();
 
 // Those of the menus whose opening is waited for.
 struct Menús {

@@ -2,6 +2,7 @@
 
 #include "ui/dibujo/colores.h"
 #include "ui/dibujo/ejes.h"
+#include "ui/dibujo/hallados.h"
 #include "ui/dibujo/trazo.h"
 
 namespace quiralto {
@@ -21,8 +22,10 @@ void DibujaGráfica(QPainter& pintor, const Lienzo& lienzo, const Cuadro& cuadro
     pintor.fillRect(lienzo.área, Papel);
     Ejes ejes(pintor, lienzo, cuadro.ventana);
     ejes.DibujaRejilla();
+    DibujaÁreas(pintor, lienzo, cuadro);
     DibujaCurvas(pintor, lienzo, cuadro);
     ejes.Dibuja();
+    DibujaLugares(pintor, lienzo, cuadro);
     pintor.restore();
 }
 

@@ -35,6 +35,7 @@ ControlGráfica::ControlGráfica(Contexto& contexto, Ejecutor& ejecutor, const P
     connect(&partes_.panel, &PanelFunciones::abandonada, this, &C::AlAbandonar);
     connect(&partes_.panel, &PanelFunciones::conmutada, this, &C::AlConmutar);
     connect(&partes_.marco, &FrmPuntosExtremos::aceptados, this, &C::FijaExtremos);
+    connect(&ejecutor_, &Ejecutor::terminada, this, &C::AlAcabarOrden);
     pausa_.setSingleShot(true);
     pausa_.setInterval(Pausa);
     connect(&pausa_, &QTimer::timeout, this, &C::AlPararse);
@@ -88,7 +89,7 @@ bool ControlGráfica::Atiende(const Cambio& cambia, const Pasos& pasos) {
 }
 
 void ControlGráfica::Muestra(const Pasos& pasos) {
-    escena_ = compositor_.Compone(contexto_, vista_, funciones_, opciones_);
+    escena_ = compositor_.Compone(contexto_, vista_, funciones_, hallados_, opciones_);
     Refresca(pasos);
     CopiaLoQueDifiere();
 }
@@ -273,6 +274,42 @@ void ControlGráfica::AlConmutar(int índice, bool encendida) {
             return true;
         },
         {});
+}
+
+void ControlGráfica::PonFunción(int índice, const QString& texto) {
+    const auto pon = [this, índice, texto] {
+        pausa_.stop();
+        funciones_.Escribe(índice, DevUtf8(texto));
+        if (funciones_.Asienta(índice))
+            funciones_.Enciende(índice);
+        return true;
+    };
+    ConTrampa(pon, {&C::ActualizaFunciones, &C::DibujarActivadas});
+}
+
+void ControlGráfica::LlevaPuntoX(const Lugar& lugar) {
+    ConTrampa([this, lugar] { return vista_.LlevaPuntoX(lugar); },
+              {&C::ActualizaX, &C::ActualizaZoom, &C::ActualizaExtremos, &C::ActualizaEjes,
+               &C::ActualizaFunciones, &C::DibujarActivadas});
+}
+
+// What was found before stays until something else is found.
+void ControlGráfica::AlAcabarOrden() {
+    if (ejecutor_.DevHallazgos().empty())
+        return;
+    const auto pon = [this] {
+        hallados_.Pon(ejecutor_.DevHallazgos());
+        return true;
+    };
+    ConTrampa(pon, {&C::DibujarActivadas});
+}
+
+void ControlGráfica::QuitarMarcas_Click() {
+    const auto quita = [this] {
+        hallados_.Quita();
+        return true;
+    };
+    ConTrampa(quita, {&C::DibujarActivadas});
 }
 
 void ControlGráfica::CopiaX() {

@@ -57,6 +57,13 @@ public:
     void AlAbandonar(int índice);
     void AlConmutar(int índice, bool encendida);
 
+    // A formula for a box, switched on.
+    void PonFunción(int índice, const QString& texto);
+    // The point X to a place, and the window where the place lies outside.
+    void LlevaPuntoX(const Lugar& lugar);
+
+    void QuitarMarcas_Click();
+
     // The window of the start, and everything brought up to date with it.
     void Comienza();
 
@@ -64,6 +71,7 @@ public:
     const Escena& DevEscena() const { return escena_; }
     const FuncionesGráficas& DevFunciones() const { return funciones_; }
     const Opciones& DevOpciones() const { return opciones_; }
+    const Hallados& DevHallados() const { return hallados_; }
 
     // How long a text may stay half-written before it is told why it is no formula.
     static constexpr std::chrono::milliseconds Pausa = std::chrono::seconds(1);
@@ -102,6 +110,7 @@ private:
     void MuevePuntoX(double pasos);
     void Señala(const std::optional<QPointF>& lugar);
     void AlPararse();
+    void AlAcabarOrden();
 
     void CopiaX();
     void CopiaFunciones();
@@ -117,6 +126,7 @@ private:
     Partes partes_;
     Vista vista_;
     FuncionesGráficas funciones_;
+    Hallados hallados_;
     Opciones opciones_;
     Compositor compositor_;
     Escena escena_;

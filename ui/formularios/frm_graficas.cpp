@@ -6,6 +6,7 @@
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
 #include "ui/formularios/edicion.h"
+#include "ui/formularios/enlace_hoja.h"
 #include "ui/formularios/frm_acerca_de.h"
 #include "ui/formularios/frm_manual.h"
 #include "ui/formularios/impresion_grafica.h"
@@ -86,6 +87,8 @@ FrmGráficas::FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Imp
     PonTamaño();
 }
 
+FrmGráficas::~FrmGráficas() = default;
+
 void FrmGráficas::CreaCuerpo() {
     división_->setObjectName(QStringLiteral("división"));
     división_->setChildrenCollapsible(false);
@@ -100,6 +103,7 @@ QWidget* FrmGráficas::CreaZonaGráfica() {
     visor_->setObjectName(QStringLiteral("VisorFunciones"));
     visor_->setAccessibleName(QStringLiteral("Gráfica"));
     visor_->addAction(acciones_.CopiarImagen);
+    visor_->addAction(acciones_.QuitarMarcas);
     visor_->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* zona = new QWidget(this);
     auto* rejilla = new QGridLayout(zona);
@@ -162,6 +166,11 @@ void FrmGráficas::CreaControl() {
                                                                 .hsx = puntoX_->DevBarra(),
                                                                 .zoom = *zoom_,
                                                                 .coordenadas = *coordenadas_});
+    enlace_ = std::make_unique<EnlaceHoja>(
+        contexto_, *ejecutor_,
+        EnlaceHoja::Partes{
+            .hoja = *txtSalida_, .panel = *panel_, .visor = *visor_, .control = *control_},
+        acciones_);
     connect(ejeX_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::hsEjeX_Change);
     connect(ejeY_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::vsEjeY_Change);
     connect(puntoX_, &MarcoBarra::cambiada, control_.get(), &ControlGráfica::hsx_Change);
@@ -260,12 +269,14 @@ void FrmGráficas::ConectaLectura() {
 // Quiet, and never while a command works on the same context.
 void FrmGráficas::LeeHoja() {
     ejecutor_->CuandoAcabe([this] {
-        QString leído; // none where it cannot be read; the command will tell
+        LecturaHoja hoja; // nothing where it cannot be read; the command will tell
         try {
-            leído = DevQString(DevLectura(contexto_, txtSalida_->DevTexto()));
+            hoja = quiralto::LeeHoja(contexto_, txtSalida_->DevTexto());
         } catch (const std::exception&) {
-            leído.clear();
+            hoja = {};
         }
+        const QString leído = DevQString(hoja.texto);
+        txtSalida_->PonErrónea(hoja.errónea);
         const std::span<const Orden> órdenes = DevÓrdenes();
         for (std::size_t i = 0; i < órdenes.size(); ++i)
             acciones_.órdenes.at(i)->setStatusTip(DevExplicación(órdenes[i], leído));

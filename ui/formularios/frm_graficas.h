@@ -24,6 +24,7 @@ class FrmGráficas : public QMainWindow {
 public:
     // All three outlive the form.
     FrmGráficas(Contexto& contexto, VigilanteÓrdenes& vigilante, Impresora& impresora);
+    ~FrmGráficas() override;
 
     // The view of the start.
     void Comienza() { control_->Comienza(); }
@@ -78,6 +79,7 @@ private:
     QLabel* coordenadas_;
     // Goes with the members, before the controls that speak to it.
     std::unique_ptr<ControlGráfica> control_;
+    std::unique_ptr<class EnlaceHoja> enlace_; // and this one before that
     QMenu* menúHoja_ = nullptr;
     QMenu* menúEdición_ = nullptr;
     class BuscarOrden* buscarOrden_ = nullptr; // made on first use

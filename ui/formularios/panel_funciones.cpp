@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include <utility>
 
@@ -105,11 +106,35 @@ void PanelFunciones::CreaFila(int índice) {
     rejilla.addWidget(etiqueta, primera, 2);
     rejilla.addWidget(fila.txtfx, primera, 3);
     rejilla.addWidget(etiquetaValor, primera + 1, 2);
-    rejilla.addWidget(fila.txtFxValor, primera + 1, 3);
+    rejilla.addWidget(fila.txtFxValor, primera + 1, 3, 1, 2);
+    CreaBotónMenú(índice);
+}
+
+// What the box's context menu has, for whoever does not look for one. The keys have that menu.
+void PanelFunciones::CreaBotónMenú(int índice) {
+    const QString función = QStringLiteral("f%1(X)").arg(índice);
+    auto* botón = new QToolButton(this);
+    botón->setObjectName(QStringLiteral("cmdMenúfx_%1").arg(índice));
+    botón->setAccessibleName(QStringLiteral("Más de ") + función);
+    botón->setToolTip(QStringLiteral("Llevar %1 a la hoja").arg(función));
+    botón->setArrowType(Qt::DownArrow);
+    botón->setAutoRaise(true);
+    botón->setFocusPolicy(Qt::NoFocus);
+    botón->setFixedWidth(20);
+    dynamic_cast<QGridLayout&>(*layout()).addWidget(botón, índice * FilasPorFunción, 4);
+    connect(botón, &QToolButton::clicked, this, [this, botón, índice] {
+        auto* menú = new QMenu(botón);
+        menú->setObjectName(QStringLiteral("MenúFunción"));
+        menú->setAttribute(Qt::WA_DeleteOnClose);
+        Q_EMIT menuPedido(índice, menú);
+        menú->popup(botón->mapToGlobal(botón->rect().bottomLeft()));
+    });
 }
 
 void PanelFunciones::ConectaFila(int índice) {
     Fila& fila = DevFila(índice);
+    connect(fila.txtfx, &CajaFormula::menuPedido, this,
+            [this, índice](QMenu* menú) { Q_EMIT menuPedido(índice, menú); });
     connect(fila.txtfx, &QLineEdit::textChanged, this,
             [this, índice](const QString& texto) { Q_EMIT escrita(índice, texto); });
     connect(fila.txtfx, &QLineEdit::returnPressed, this,

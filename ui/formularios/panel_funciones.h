@@ -39,6 +39,8 @@ Q_SIGNALS:
     void conmutada(int indice, bool encendida);
     // Why the text of the box with the focus is no formula; empty where nothing is to be said.
     void motivoCambiado(const QString& motivo);
+    // A function's menu is about to be shown: whoever has something to offer adds it.
+    void menuPedido(int indice, QMenu* menu);
 
 private:
     struct Fila {
@@ -49,6 +51,7 @@ private:
     };
 
     void CreaFila(int índice);
+    void CreaBotónMenú(int índice);
     void CreaPuntoX();
     void ConectaFila(int índice);
     Fila& DevFila(int índice) { return filas_.at(static_cast<std::size_t>(índice)); }

@@ -1,11 +1,15 @@
 #include "ui/formularios/visor_funciones.h"
 
 #include "ui/dibujo/grafica.h"
+#include "ui/dibujo/hallados.h"
 #include "ui/dibujo/punto_x.h"
+#include "ui/dibujo/texto_qt.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -99,11 +103,31 @@ QPointF VisorFunciones::DevSeparación() const {
     return {(v.XMáx - v.XMín) / std::max(1, width()), (v.YMáx - v.YMín) / std::max(1, height())};
 }
 
+// Of what a command has found there.
+QString VisorFunciones::DevTextoEn(const QPointF& lugar) const {
+    if (cuadro_.marcas == nullptr)
+        return {};
+    const QPointF lógico = DevLógico(lugar);
+    const QPointF separación = DevSeparación();
+    std::string texto =
+        DevTextoLugar(*cuadro_.marcas, {lógico.x(), lógico.y()}, separación.x(), separación.y());
+    for (const ÁreaHallada& área : cuadro_.marcas->áreas)
+        if (texto.empty() && EstáEnÁrea(cuadro_, área, DevXlógico(cuadro_.ventana, lógico.x()),
+                                        DevYlógico(cuadro_.ventana, lógico.y())))
+            texto = área.texto;
+    return DevQString(texto);
+}
+
 bool VisorFunciones::event(QEvent* suceso) {
     switch (suceso->type()) {
     case QEvent::Leave:
         Q_EMIT noApunta();
         break;
+    case QEvent::ToolTip: {
+        const auto& ayuda = dynamic_cast<const QHelpEvent&>(*suceso);
+        QToolTip::showText(ayuda.globalPos(), DevTextoEn(ayuda.pos()), this);
+        return true;
+    }
     case QEvent::FontChange:
     case QEvent::StyleChange:
         capa_ = {};

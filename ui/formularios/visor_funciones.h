@@ -28,6 +28,9 @@ public:
     QPointF DevLógico(const QPointF& lugar) const;
     QPointF DevSeparación() const;
 
+    // What there is at a place of the widget, in words; empty where there is nothing.
+    QString DevTextoEn(const QPointF& lugar) const;
+
     QSize sizeHint() const override { return {640, 520}; }
 
 Q_SIGNALS:

@@ -34,6 +34,8 @@ std::string Describe(const Escena& escena) {
         texto += ". " + entrada.texto;
         texto += valor.empty() ? ", sin valor en X" : ", en X vale " + valor;
     }
+    if (escena.cuadro.marcas != nullptr)
+        texto += ". Marcas: " + DevTextoMarcas(*escena.cuadro.marcas);
     return texto;
 }
 
@@ -79,7 +81,7 @@ const std::shared_ptr<const ListaPuntos>& Compositor::DevPuntos(Contexto& contex
 }
 
 Escena Compositor::Compone(Contexto& contexto, const Vista& vista, FuncionesGráficas& funciones,
-                           const Opciones& opciones) {
+                           Hallados& hallados, const Opciones& opciones) {
     Escena escena;
     escena.cuadro.ventana = vista.DevVentana();
     escena.cuadro.método = opciones.método;
@@ -102,6 +104,7 @@ Escena Compositor::Compone(Contexto& contexto, const Vista& vista, FuncionesGrá
         }
     }
     ComponeTextos(escena, vista);
+    escena.cuadro.marcas = hallados.DevMarcas(contexto, funciones);
     escena.descripción = Describe(escena);
     return escena;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "ui/grafica/funciones.h"
+#include "ui/grafica/hallados.h"
 #include "ui/grafica/opciones.h"
 
 #include <memory>
@@ -27,6 +28,7 @@ struct Cuadro {
     Ventana ventana;
     MétodoDibujo método = MétodoDibujo::Líneas;
     PorFunción<Curva> curvas;
+    std::shared_ptr<const Marcas> marcas; // null where there are none
 
     bool operator==(const Cuadro&) const = default;
 };
@@ -71,7 +73,7 @@ class Compositor {
 public:
     // Fault: run-time error 6 where the window cannot be sampled.
     Escena Compone(Contexto& contexto, const Vista& vista, FuncionesGráficas& funciones,
-                   const Opciones& opciones);
+                   Hallados& hallados, const Opciones& opciones);
 
 private:
     struct Muestra {

@@ -37,6 +37,15 @@ void MagnificaEn(double& mínimo, double& máximo, double centro, double factor)
     máximo = centro + (máximo - centro) / factor;
 }
 
+// The range with v in its middle, unless it holds v as it is.
+void LlevaA(double& mínimo, double& máximo, double v) {
+    if (v >= mínimo && v <= máximo)
+        return;
+    const double distancia = v - (mínimo / 2 + máximo / 2);
+    mínimo += distancia;
+    máximo += distancia;
+}
+
 } // namespace
 
 double Vista::UnidadX() const {
@@ -128,6 +137,15 @@ bool Vista::PonPuntoX(double x) {
     Estado nueva = actual_;
     nueva.PuntoX = x;
     return Cambia(nueva);
+}
+
+bool Vista::LlevaPuntoX(const Lugar& lugar) {
+    Estado nueva = actual_;
+    nueva.PuntoX = lugar.x;
+    LlevaA(nueva.ventana.XMín, nueva.ventana.XMáx, lugar.x);
+    Estado entera = nueva;
+    LlevaA(entera.ventana.YMín, entera.ventana.YMáx, lugar.y);
+    return Cambia(entera) || Cambia(nueva) || PonPuntoX(lugar.x);
 }
 
 } // namespace quiralto

@@ -47,6 +47,9 @@ public:
     bool Desplaza(double dx, double dy);
     bool ZoomEn(const Lugar& centro, double factor);
     bool PonPuntoX(double x);
+    // The point X, and the window so far that the place lies in its middle where it lies outside;
+    // less of that where the view could not be drawn.
+    bool LlevaPuntoX(const Lugar& lugar);
 
 private:
     struct Estado {

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QStringList>
@@ -212,6 +213,14 @@ void CajaFormula::mousePressEvent(QMouseEvent* suceso) {
     QLineEdit::mousePressEvent(suceso);
     if (std::exchange(entraConRatón_, false))
         SeleccionaTexto(); // the click has just undone it
+}
+
+void CajaFormula::contextMenuEvent(QContextMenuEvent* suceso) {
+    QMenu* const menú = createStandardContextMenu();
+    menú->setObjectName(QStringLiteral("MenúContextualFórmula"));
+    menú->setAttribute(Qt::WA_DeleteOnClose);
+    Q_EMIT menuPedido(menú);
+    menú->popup(suceso->globalPos());
 }
 
 void CajaFormula::focusOutEvent(QFocusEvent* suceso) {

@@ -7,6 +7,7 @@
 
 #include <QCompleter>
 #include <QLineEdit>
+#include <QMenu>
 
 namespace quiralto {
 
@@ -37,6 +38,8 @@ Q_SIGNALS:
     void abandonada();
     // The focus has come, or has gone wherever to.
     void enfocada(bool tiene);
+    // Its context menu is about to be shown: whoever has something to offer adds it.
+    void menuPedido(QMenu* menu);
 
 protected:
     bool event(QEvent* suceso) override;
@@ -45,6 +48,7 @@ protected:
     void focusInEvent(QFocusEvent* suceso) override;
     void focusOutEvent(QFocusEvent* suceso) override;
     void mousePressEvent(QMouseEvent* suceso) override;
+    void contextMenuEvent(QContextMenuEvent* suceso) override;
     void changeEvent(QEvent* suceso) override;
 
 private:

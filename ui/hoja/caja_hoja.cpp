@@ -4,8 +4,10 @@
 #include "ui/dibujo/contraste.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
+#include "ui/hoja/edita_lineas.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextBlock>
@@ -16,19 +18,25 @@
 namespace quiralto {
 
 CajaHoja::CajaHoja(QWidget* padre, Pitido pitido)
-    : QPlainTextEdit(padre), pitido_(std::move(pitido)) {
+    : QPlainTextEdit(padre), pitido_(std::move(pitido)), resaltado_(new Resaltado(document())) {
     setFont(DevFuenteFija());
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     connect(document(), &QTextDocument::contentsChange, this,
             [this](int lugar, int, int añadidos) { AlCambiar(lugar, añadidos); });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { AlMoverse(); });
     setTabChangesFocus(true);
+    pausa_.setSingleShot(true);
+    pausa_.setInterval(Pausa);
+    connect(&pausa_, &QTimer::timeout, this, [this] { Subraya(); });
     PonColores();
 }
 
 // The desktop's palette may leave the colour of the example line as it is on white paper.
 void CajaHoja::PonColores() {
-    const QColor suave = DevTextoSuave(QApplication::palette(this));
+    const QPalette escritorio = QApplication::palette(this);
+    resaltado_->PonColor(DevColorComentario(escritorio));
+    Subraya();
+    const QColor suave = DevTextoSuave(escritorio);
     if (suave == palette().color(QPalette::PlaceholderText))
         return;
     QPalette paleta; // but for one colour the desktop's
@@ -129,7 +137,7 @@ void CajaHoja::Escribe(const QString& texto, const Inserción& inserta) {
         cursor.joinPreviousEditBlock();
         inserta();
         cursor.endEditBlock();
-        salto_ = Salto::Siguiendo;
+        salto_ = Salto::Seguido;
     }
     propia_ = propia_ || empieza;
 }
@@ -143,7 +151,7 @@ void CajaHoja::EscribeEnOtraLínea(const Inserción& inserta) {
     setTextCursor(cursor);
     inserta();
     cursor.endEditBlock();
-    salto_ = Salto::Recién;
+    salto_ = Salto::Reciente;
 }
 
 // What was written goes back behind the comment, and what follows with it.
@@ -155,6 +163,8 @@ void CajaHoja::QuitaSalto() {
 
 void CajaHoja::AlCambiar(int lugar, int añadidos) {
     EligeCorte(lugar, añadidos);
+    errónea_.reset(); // until it is read anew
+    pausa_.start();
     const int anteriores = std::exchange(líneas_, document()->blockCount());
     if (anteriores != líneas_ || (añadidos > 0 && !escribiendo_))
         propia_ = false;
@@ -163,6 +173,8 @@ void CajaHoja::AlCambiar(int lugar, int añadidos) {
 }
 
 void CajaHoja::AlMoverse() {
+    if (errónea_ && pausa_.isActive())
+        Subraya();
     if (escribiendo_)
         return;
     salto_ = Salto::Ninguno;
@@ -170,8 +182,29 @@ void CajaHoja::AlMoverse() {
         propia_ = false;
 }
 
+void CajaHoja::PonErrónea(std::optional<std::size_t> línea) {
+    errónea_ = línea;
+    Subraya();
+}
+
+void CajaHoja::Subraya() {
+    const QTextBlock bloque = errónea_ ? DevLíneaDeDatos(*document(), *errónea_) : QTextBlock();
+    QList<QTextEdit::ExtraSelection> subrayadas;
+    if (bloque.isValid() && !(pausa_.isActive() && bloque == textCursor().block())) {
+        const qsizetype apóstrofo = bloque.text().indexOf(u'\'');
+        QTextCursor línea(bloque);
+        línea.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor,
+                           static_cast<int>(apóstrofo < 0 ? bloque.text().size() : apóstrofo));
+        QTextCharFormat formato;
+        formato.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+        formato.setUnderlineColor(DevColorErrónea(QApplication::palette(this)));
+        subrayadas.push_back({línea, formato});
+    }
+    setExtraSelections(subrayadas);
+}
+
 void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
-    if (salto_ == Salto::Recién && suceso->key() == Qt::Key_Backspace &&
+    if (salto_ == Salto::Reciente && suceso->key() == Qt::Key_Backspace &&
         suceso->modifiers() == Qt::NoModifier) {
         QuitaSalto();
         suceso->accept();
@@ -197,6 +230,25 @@ void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
     if (!filtrado.text().isEmpty())
         Escribe(filtrado.text(), [&] { QPlainTextEdit::keyPressEvent(&filtrado); });
     suceso->accept();
+}
+
+// The line under the pointer, or the cursor's where the menu's key was pressed.
+void CajaHoja::contextMenuEvent(QContextMenuEvent* suceso) {
+    const bool conTecla = suceso->reason() == QContextMenuEvent::Keyboard;
+    const QTextCursor lugar = conTecla ? textCursor() : cursorForPosition(suceso->pos());
+    QMenu* const menú = createStandardContextMenu(suceso->pos());
+    menú->setObjectName(QStringLiteral("MenúContextualHoja"));
+    menú->setAttribute(Qt::WA_DeleteOnClose);
+    Q_EMIT menuPedido(menú, lugar.block().text());
+    menú->popup(conTecla ? viewport()->mapToGlobal(cursorRect().bottomLeft())
+                         : suceso->globalPos());
+}
+
+void CajaHoja::mouseReleaseEvent(QMouseEvent* suceso) {
+    QPlainTextEdit::mouseReleaseEvent(suceso);
+    if (suceso->button() == Qt::LeftButton && suceso->modifiers() == Qt::ControlModifier &&
+        !textCursor().hasSelection())
+        Q_EMIT pulsadaConCtrl(cursorForPosition(suceso->position().toPoint()).block().text());
 }
 
 void CajaHoja::inputMethodEvent(QInputMethodEvent* suceso) {

@@ -25,6 +25,7 @@ void Ejecutor::Ejecuta(std::string_view orden) {
     const std::string anterior = hoja_.DevTexto();
     Hoja hoja(anterior);
     Corre(hoja, última_);
+    hallazgos_ = std::move(hoja.hallazgos);
     // Commands only append.
     const std::string_view salida = std::string_view(hoja.texto).substr(anterior.size());
     if (!salida.empty())

@@ -50,6 +50,8 @@ public:
 
     // The last command that was run, whether it was refused, cancelled or neither.
     std::string_view DevÚltima() const { return última_; }
+    // What it has found on a function.
+    const std::vector<Hallazgo>& DevHallazgos() const { return hallazgos_; }
     void Repite() { Ejecuta(última_); }
 
     // Does it now, or once the running command has ended.
@@ -67,6 +69,7 @@ private:
     CajaHoja& hoja_;
     bool enMarcha_ = false;
     std::string última_;
+    std::vector<Hallazgo> hallazgos_;
     std::vector<std::function<void()>> pendientes_;
 };
 

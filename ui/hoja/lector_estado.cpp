@@ -1,6 +1,7 @@
 #include "ui/hoja/lector_estado.h"
 
-#include "commands/formas.h"
+#include "commands/ordenes.h"
+#include "engine/lenguaje/operaciones.h"
 #include "ui/grafica/pista.h"
 
 #include <algorithm>
@@ -68,9 +69,8 @@ std::string DevFunciones(std::span<const std::string> líneas) {
 
 // The unknowns that stand in a text as SLN(i).
 void ReúneIncógnitas(std::string_view texto, std::set<std::string, std::less<>>& incógnitas) {
-    constexpr std::string_view Comienzo = "SLN(";
-    for (std::size_t i = texto.find(Comienzo); i != std::string_view::npos;
-         i = texto.find(Comienzo, i + 1))
+    for (std::size_t i = texto.find(PrefijoSln); i != std::string_view::npos;
+         i = texto.find(PrefijoSln, i + 1))
         incógnitas.emplace(texto.substr(i, texto.find(')', i) - i));
 }
 
@@ -99,13 +99,10 @@ std::string DevMotivo(const Lectura& lectura, std::span<const std::string> líne
     return pista.empty() ? texto : texto + " (" + pista + ")";
 }
 
-std::string DevLectura(Contexto& contexto, const Forma& forma,
-                       std::span<const std::string> líneas) {
+std::string DevTexto(const Forma& forma, const Lectura& lectura,
+                     std::span<const std::string> líneas) {
     static constexpr std::array<std::string_view, 2> Extremos = {"extremo 1", "extremo 2"};
     static constexpr std::array<std::string_view, 1> Punto = {"punto"};
-    if (forma.clase == ClaseForma::Números || forma.clase == ClaseForma::Puntos)
-        return DevNúmeros(líneas);
-    const Lectura lectura = LeeDatos(contexto, forma, líneas);
     const std::string motivo = DevMotivo(lectura, líneas);
     switch (forma.clase) {
     case ClaseForma::Ecuaciones:
@@ -121,22 +118,48 @@ std::string DevLectura(Contexto& contexto, const Forma& forma,
         return "Varias variables: " + SinBlancos(líneas.front()) + motivo;
     case ClaseForma::Números:
     case ClaseForma::Puntos:
-        break;
+        return DevNúmeros(líneas);
     }
     return {};
 }
 
+LecturaHoja LeeLíneas(Contexto& contexto, std::span<const std::string> líneas) {
+    const std::optional<Forma> forma = ReconoceForma(líneas);
+    if (!forma)
+        return {DevCantidad(líneas.size(), "línea de datos", "líneas de datos"), {}};
+    if (forma->clase == ClaseForma::Números || forma->clase == ClaseForma::Puntos)
+        return {DevNúmeros(líneas), {}};
+    const Lectura lectura = LeeDatos(contexto, *forma, líneas);
+    return {DevTexto(*forma, lectura, líneas),
+            lectura.rechazo ? lectura.rechazo->línea : std::nullopt};
+}
+
 } // namespace
 
-std::string DevLectura(Contexto& contexto, std::string_view hoja) {
+LecturaHoja LeeHoja(Contexto& contexto, std::string_view hoja) {
     const std::string_view comienzo = DevComienzo(hoja);
     const std::vector<std::string> líneas = LeeTextBox(comienzo);
     if (líneas.empty())
-        return "Sin datos";
-    const std::optional<Forma> forma = ReconoceForma(líneas);
-    std::string texto = forma ? DevLectura(contexto, *forma, líneas)
-                              : DevCantidad(líneas.size(), "línea de datos", "líneas de datos");
-    return comienzo.size() < hoja.size() ? "Al menos " + texto : texto;
+        return {"Sin datos", {}};
+    if (comienzo.size() == hoja.size())
+        return LeeLíneas(contexto, líneas);
+    if (!hoja.substr(comienzo.size()).starts_with("\r\n")) // cut within its only line
+        return {"Más de 64 KiB en una línea", {}};
+    LecturaHoja leída = LeeLíneas(contexto, líneas);
+    leída.texto.insert(0, "Al menos ");
+    return leída;
+}
+
+std::vector<std::size_t> DevÓrdenesPosibles(Contexto& contexto, std::string_view hoja) {
+    std::vector<std::size_t> posibles;
+    if (DevComienzo(hoja).size() < hoja.size())
+        return posibles;
+    const std::vector<std::string> líneas = LeeTextBox(hoja);
+    const std::span<const Orden> órdenes = DevÓrdenes();
+    for (std::size_t i = 0; i < órdenes.size(); ++i)
+        if (!líneas.empty() && !LeeDatos(contexto, órdenes[i].forma, líneas).rechazo)
+            posibles.push_back(i);
+    return posibles;
 }
 
 } // namespace quiralto

@@ -17,7 +17,9 @@ protected:
         funciones.Escribe(índice, texto);
         funciones.Enciende(índice);
     }
-    Escena Compone() { return compositor.Compone(banco.contexto, vista, funciones, opciones); }
+    Escena Compone() {
+        return compositor.Compone(banco.contexto, vista, funciones, hallados, opciones);
+    }
     const ListaPuntos& DevPuntos(const Escena& escena, std::size_t índice) {
         return *escena.cuadro.curvas.at(índice).puntos;
     }
@@ -25,6 +27,7 @@ protected:
     Banco banco;
     Vista vista;
     FuncionesGráficas funciones{banco.contexto};
+    Hallados hallados;
     Opciones opciones;
     Compositor compositor;
 };

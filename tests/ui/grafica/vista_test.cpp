@@ -197,5 +197,29 @@ TEST_F(VistaGráfica, CambiosAlAzarDejanUnaVistaUtilizable) {
     }
 }
 
+TEST(LlevarElPuntoX, MueveLaVentanaSóloHastaDondeHaceFalta) {
+    Vista vista;
+    const Ventana inicial = vista.DevVentana();
+    EXPECT_TRUE(vista.LlevaPuntoX({3, -10}));
+    EXPECT_EQ(vista.DevPuntoX(), 3);
+    EXPECT_EQ(vista.DevVentana(), inicial);
+    EXPECT_TRUE(vista.LlevaPuntoX({25, 2}));
+    EXPECT_EQ(vista.DevPuntoX(), 25);
+    EXPECT_EQ(vista.DevVentana(), (Ventana{.XMáx = 35, .XMín = 15, .YMáx = 10, .YMín = -10}));
+    EXPECT_TRUE(vista.LlevaPuntoX({15, -400}));
+    EXPECT_EQ(vista.DevVentana(), (Ventana{.XMáx = 35, .XMín = 15, .YMáx = -390, .YMín = -410}));
+}
+
+TEST(LlevarElPuntoX, NoDejaUnaVistaQueNoSePuedeDibujar) {
+    Vista vista;
+    const Ventana inicial = vista.DevVentana();
+    EXPECT_TRUE(vista.LlevaPuntoX({20, 1e300}));
+    EXPECT_EQ(vista.DevVentana(), (Ventana{.XMáx = 30, .XMín = 10, .YMáx = 10, .YMín = -10}));
+    EXPECT_TRUE(vista.ValoresPorDefecto());
+    EXPECT_TRUE(vista.LlevaPuntoX({1e300, 0}));
+    EXPECT_EQ(vista.DevPuntoX(), 1e300);
+    EXPECT_EQ(vista.DevVentana(), inicial);
+}
+
 } // namespace
 } // namespace quiralto
