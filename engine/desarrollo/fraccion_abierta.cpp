@@ -119,14 +119,14 @@ bool JuntaNegativo(TablaSímbolos& tabla, FracciónAbierta& f, std::size_t i) {
 
 } // namespace
 
-void PonPotencia(FracciónAbierta& f, const Términos& suma, std::int64_t exponente) {
+void PonPotencia(FracciónAbierta& f, Términos suma, std::int64_t exponente) {
     for (Potencia& potencia : f.sumas)
         if (const auto proporción = DevProporción(suma, potencia.suma)) {
             potencia.exponente += exponente;
             f.coeficiente *= proporción->Potencia(exponente);
             return;
         }
-    f.sumas.push_back({suma, exponente});
+    f.sumas.push_back({std::move(suma), exponente});
 }
 
 void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
@@ -167,21 +167,26 @@ void AbreGrupos(TablaSímbolos& tabla, FracciónAbierta& f) {
     }
 }
 
-FracciónAbierta Abre(TablaSímbolos& tabla, const Términos& suma) {
+FracciónAbierta Abre(TablaSímbolos& tabla, Términos suma) {
     FracciónAbierta f;
     if (suma.empty()) {
         f.coeficiente = 0;
-    } else if (suma.size() > 1) {
-        f.sumas.push_back({suma, 1});
-    } else if (const Base* const cociente = DevCocienteDe(tabla, suma[0].literal);
-               cociente != nullptr && suma[0].literal[0].exponente == 1) {
+        return f;
+    }
+    if (suma.size() > 1) {
+        f.sumas.push_back({std::move(suma), 1});
+        return f;
+    }
+    Término& único = suma[0];
+    if (const Base* const cociente = DevCocienteDe(tabla, único.literal);
+        cociente != nullptr && único.literal[0].exponente == 1) {
         f = Abre(tabla, cociente->contenido); // no quotient itself
-        f.coeficiente *= suma[0].coeficiente;
+        f.coeficiente *= único.coeficiente;
         f.abajo = cociente->denominador;
         f.signoAbajo = cociente->signoAbajo;
     } else {
-        f.coeficiente = suma[0].coeficiente;
-        f.arriba = suma[0].literal;
+        f.coeficiente = std::move(único.coeficiente);
+        f.arriba = std::move(único.literal);
         AbreGrupos(tabla, f);
     }
     return f;
@@ -192,9 +197,13 @@ FracciónAbierta Multiplica(TablaSímbolos& tabla, FracciónAbierta a, Fracción
     producto.coeficiente *= b.coeficiente;
     if (producto.coeficiente.EsCero())
         return {.coeficiente = 0};
-    const auto multiplica = [&](Literal& x, const Literal& y) {
+    const auto multiplica = [&](Literal& x, Literal& y) {
         if (y.empty())
             return;
+        if (x.empty()) {
+            x = std::move(y);
+            return JuntaRaíces(tabla, x);
+        }
         Literal unido;
         MultiplicaLiterales(tabla, x, y, unido);
         JuntaRaíces(tabla, unido);
@@ -202,8 +211,8 @@ FracciónAbierta Multiplica(TablaSímbolos& tabla, FracciónAbierta a, Fracción
     };
     multiplica(producto.arriba, b.arriba);
     multiplica(producto.abajo, b.abajo);
-    for (const Potencia& potencia : b.sumas)
-        PonPotencia(producto, potencia.suma, potencia.exponente);
+    for (Potencia& potencia : b.sumas)
+        PonPotencia(producto, std::move(potencia.suma), potencia.exponente);
     producto.signoAbajo = producto.signoAbajo != b.signoAbajo;
     AbreGrupos(tabla, producto);
     if (producto.coeficiente.EsCero())

@@ -24,7 +24,7 @@ struct FracciónAbierta {
 };
 
 // What a sum is, as a product: the factors of its one term, or itself. A quotient is opened.
-FracciónAbierta Abre(TablaSímbolos& tabla, const Términos& suma);
+FracciónAbierta Abre(TablaSímbolos& tabla, Términos suma);
 
 // The product, its common factors cancelled (reduccion.h). Powers of one sum are one power.
 FracciónAbierta Multiplica(TablaSímbolos& tabla, FracciónAbierta a, FracciónAbierta b);
@@ -43,7 +43,7 @@ struct ConNúmero {
 ConNúmero DevGrupo(TablaSímbolos& tabla, const Términos& suma);
 
 // Puts a sum among the powers of a fraction: joined to the power of a proportional one, or last.
-void PonPotencia(FracciónAbierta& f, const Términos& suma, std::int64_t exponente);
+void PonPotencia(FracciónAbierta& f, Términos suma, std::int64_t exponente);
 
 // What groups with a whole exponent above 0 hold, moved from the literal part to the sums; powers
 // of these groups below 0 join them too.

@@ -17,6 +17,11 @@ double SóloFinito(double valor) {
     return std::isfinite(valor) ? valor : SinValor;
 }
 
+// The general power takes longest where it has no value.
+double DevPotenciaConValor(double base, double exponente) {
+    return base < 0 && exponente != std::trunc(exponente) ? SinValor : DevPotencia(base, exponente);
+}
+
 // Not a number outside the domain and beyond the Double range.
 double ValorDe(const DescripciónOperación& operación, double izquierdo, double derecho) {
     if (operación.fallo(izquierdo, derecho) != SinFallo)
@@ -195,8 +200,12 @@ void PuntosDePrueba::MultiplicaPotencia(Vista vista, std::span<const Factor> fac
         &bases_[static_cast<std::size_t>(vista)][tabla_.IdDe(primero)][desde];
     if (factores.size() == 1 && tabla_.EsLlano(primero)) {
         const double exponente = factores.front().exponente.ADouble();
-        for (std::size_t k = 0; k < valores.size(); ++k)
-            valores[k] *= exponente == 1 ? base[k] : DevPotencia(base[k], exponente);
+        if (exponente == 1)
+            for (std::size_t k = 0; k < valores.size(); ++k)
+                valores[k] *= base[k];
+        else
+            for (std::size_t k = 0; k < valores.size(); ++k)
+                valores[k] *= DevPotenciaConValor(base[k], exponente);
         return;
     }
     std::array<double, Decena> exponentes{};
@@ -210,7 +219,8 @@ void PuntosDePrueba::MultiplicaPotencia(Vista vista, std::span<const Factor> fac
     }
     const bool esEuler = tabla_.BaseDe(primero).clase == ClaseBase::Euler;
     for (std::size_t k = 0; k < valores.size(); ++k)
-        valores[k] *= esEuler ? std::exp(exponentes[k]) : DevPotencia(base[k], exponentes[k]);
+        valores[k] *=
+            esEuler ? std::exp(exponentes[k]) : DevPotenciaConValor(base[k], exponentes[k]);
 }
 
 // A text of the language that was never taken apart: its letters all count as inside.

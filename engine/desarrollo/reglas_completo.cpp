@@ -24,7 +24,8 @@ Valor ReglasCompleto::DeProducto(FracciónAbierta f, Coeficiente divisor) {
 }
 
 FracciónAbierta ReglasCompleto::ComoProducto(Valor& valor) {
-    return valor.producto ? std::move(*valor.producto) : Abre(tabla_, valor.suma.Cerrada());
+    return valor.producto ? std::move(*valor.producto)
+                          : Abre(tabla_, std::move(valor.suma).Cerrada());
 }
 
 Valor ReglasCompleto::Suma(Valor a, Valor b, int signo) {

@@ -22,7 +22,8 @@ Términos ReglasSimplificado::ComoSuma(Valor& valor) {
 }
 
 FracciónAbierta ReglasSimplificado::ComoProducto(Valor& valor) {
-    return valor.producto ? std::move(*valor.producto) : Abre(tabla_, valor.suma.Cerrada());
+    return valor.producto ? std::move(*valor.producto)
+                          : Abre(tabla_, std::move(valor.suma).Cerrada());
 }
 
 FracciónAbierta ReglasSimplificado::ComoFracción(Valor& valor) {

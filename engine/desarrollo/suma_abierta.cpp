@@ -14,6 +14,7 @@ SumaAbierta::SumaAbierta(TablaSímbolos& tabla, Términos suma) : tabla_(tabla) 
     for (Término& término : suma) {
         porLetra_.Añade(DevHash(término.literal), static_cast<std::uint32_t>(nodos_.size()));
         soloDeX_ = soloDeX_ && EsMonomioDeX(tabla_, término.literal);
+        soloNúmeros_ = soloNúmeros_ && término.literal.empty();
         nodos_.push_back({std::move(término), último_++});
     }
     vivos_ = nodos_.size();
@@ -38,7 +39,7 @@ std::uint32_t SumaAbierta::Busca(const Literal& literal, std::uint64_t hash) {
     if (hallado != ÍndiceHash::Ninguno || literal.empty() || tabla_.SoloPorLetra())
         return hallado;
     if (!porValores_) {
-        if (nodos_.empty() || (soloDeX_ && EsMonomioDeX(tabla_, literal)))
+        if (soloNúmeros_ || (soloDeX_ && EsMonomioDeX(tabla_, literal)))
             return ÍndiceHash::Ninguno;
         EmpiezaPrueba();
     }
@@ -50,6 +51,7 @@ void SumaAbierta::Pon(std::uint32_t hallado, const Literal& literal, Coeficiente
                       std::uint64_t hash, std::int64_t orden) {
     ++vivos_;
     soloDeX_ = soloDeX_ && EsMonomioDeX(tabla_, literal);
+    soloNúmeros_ = soloNúmeros_ && literal.empty();
     if (hallado != ÍndiceHash::Ninguno) {
         nodos_[hallado] = {{std::move(coeficiente), literal}, orden};
         porLetra_.Añade(hash, hallado);

@@ -39,6 +39,7 @@ private:
     ÍndiceHash porLetra_;
     std::optional<ÍndiceSemejantes> porValores_; // once the test has begun
     bool soloDeX_ = true;                        // every node a number or a power of X
+    bool soloNúmeros_ = true;                    // every node a number
     int signo_ = 1;                              // of all coefficients
     std::int64_t primero_ = 0;
     std::int64_t último_ = 0;
