@@ -14,6 +14,19 @@
 namespace quiralto {
 namespace {
 
+FracciónAbierta SinAbajo(FracciónAbierta f) {
+    f.abajo.clear();
+    f.signoAbajo = false;
+    return f;
+}
+
+FracciónAbierta SoloAbajo(const FracciónAbierta& f) {
+    FracciónAbierta divisor;
+    divisor.abajo = f.abajo;
+    divisor.signoAbajo = f.signoAbajo;
+    return divisor;
+}
+
 // A lone group below whose sign is the fraction's takes it.
 void MeteSigno(TablaSímbolos& tabla, FracciónAbierta& f) {
     if (!f.signoAbajo || f.abajo.size() != 1 || f.abajo[0].exponente != 1 ||
@@ -151,9 +164,7 @@ FracciónAbierta DevAmpliación(TablaSímbolos& tabla, const Literal& común, co
 }
 
 Términos Amplía(TablaSímbolos& tabla, const FracciónAbierta& f, const Literal& común) {
-    FracciónAbierta numerador = f;
-    numerador.abajo.clear();
-    numerador.signoAbajo = false;
+    FracciónAbierta numerador = SinAbajo(f);
     if (f.signoAbajo)
         numerador.coeficiente.CambiaSigno();
     return DevNumerador(
@@ -173,6 +184,29 @@ bool HayAnidados(const TablaSímbolos& tabla, const Base& cociente) {
            std::ranges::any_of(cociente.denominador, [&](const Factor& factor) {
                return HayCocientes(tabla, tabla.BaseDe(factor.símbolo).contenido);
            });
+}
+
+Términos CierraSuma(TablaSímbolos& tabla, const FracciónAbierta& f) {
+    Términos suma = DevNumerador(tabla, f);
+    if (f.signoAbajo)
+        EscalaSuma(suma, -1);
+    const bool esPropia = f.sumas.size() == 1 && f.sumas[0].exponente == 1 && f.arriba.empty();
+    if (!esPropia)
+        FundeSemejantes(tabla, suma);
+    return suma;
+}
+
+// The fraction with its numerator multiplied out: factors of that can have met in one that cancels.
+Términos CierraReducida(TablaSímbolos& tabla, const FracciónAbierta& f, Términos numerador) {
+    FracciónAbierta entera = Abre(tabla, numerador);
+    entera.abajo = f.abajo;
+    entera.signoAbajo = f.signoAbajo;
+    Reduce(tabla, entera);
+    if (entera.abajo.empty())
+        return Cierra(tabla, entera);
+    if (entera.abajo != f.abajo)
+        numerador = DevNumerador(tabla, SinAbajo(entera));
+    return DevTérminoCociente(tabla, std::move(entera), numerador);
 }
 
 } // namespace
@@ -214,50 +248,23 @@ Términos DevNumerador(TablaSímbolos& tabla, const FracciónAbierta& f) {
 }
 
 Términos Cierra(TablaSímbolos& tabla, const FracciónAbierta& f) {
-    if (f.abajo.empty()) {
-        Términos suma = DevNumerador(tabla, f);
-        if (f.signoAbajo)
-            EscalaSuma(suma, -1);
-        const bool esPropia = f.sumas.size() == 1 && f.sumas[0].exponente == 1 && f.arriba.empty();
-        if (!esPropia)
-            FundeSemejantes(tabla, suma);
-        return suma;
-    }
+    if (f.abajo.empty())
+        return CierraSuma(tabla, f);
     const GuardaProfundidad guarda(tabla);
-    FracciónAbierta sola = f;
-    sola.abajo.clear();
-    sola.signoAbajo = false;
-    Términos numerador = DevNumerador(tabla, sola);
+    Términos numerador = DevNumerador(tabla, SinAbajo(f));
+    const std::size_t términos = numerador.size();
     FundeSemejantes(tabla, numerador);
     if (numerador.empty())
         return {};
     if (HayCocientes(tabla, numerador)) { // of roots that have become whole
         FracciónAbierta una = SobreUnDenominadorSiCabe(tabla, numerador);
-        if (!una.abajo.empty()) {
-            FracciónAbierta divisor;
-            divisor.abajo = f.abajo;
-            divisor.signoAbajo = f.signoAbajo;
-            return Cierra(tabla, Multiplica(tabla, std::move(una), std::move(divisor)));
-        }
+        if (!una.abajo.empty())
+            return Cierra(tabla, Multiplica(tabla, std::move(una), SoloAbajo(f)));
     }
-    if (f.sumas.size() + (f.arriba.empty() ? 0U : 1U) < 2)
-        return DevTérminoCociente(tabla, f, std::move(numerador));
-    // Multiplied out, its factors can have met in one that cancels.
-    FracciónAbierta entera = Abre(tabla, numerador);
-    entera.abajo = f.abajo;
-    entera.signoAbajo = f.signoAbajo;
-    const std::size_t términos = numerador.size();
-    Reduce(tabla, entera);
-    if (entera.abajo.empty())
-        return Cierra(tabla, entera);
-    numerador =
-        entera.abajo == f.abajo && términos > 0 ? std::move(numerador) : DevNumerador(tabla, [&] {
-            FracciónAbierta n = entera;
-            n.abajo.clear();
-            n.signoAbajo = false;
-            return n;
-        }());
-    return DevTérminoCociente(tabla, std::move(entera), std::move(numerador));
+    const std::size_t factores = f.sumas.size() + (f.arriba.empty() ? 0U : 1U);
+    return factores < 2 && numerador.size() == términos
+               ? DevTérminoCociente(tabla, f, numerador)
+               : CierraReducida(tabla, f, std::move(numerador));
 }
 
 FracciónAbierta SumaFracciones(TablaSímbolos& tabla, const FracciónAbierta& a,

@@ -5,9 +5,11 @@
 //   base stands once; variables come first, in alphabetical order (unknowns SLN(i) by i), then
 //   numbers that are raised, groups and functions by their texts. A base is followed by "^" and
 //   its exponent, unless that is 1.
-// - Numbers are exact while they are computed with (coeficiente.h) and rounded to DígitosRedondeo
-//   where they are written; what enters a function or an exponent is the written text. A
-//   coefficient that is not 0 is never written as 0: it stands as a fraction.
+// - Numbers are exact while they are computed with (coeficiente.h). The coefficients of the sum
+// that
+//   is emitted are rounded to DígitosRedondeo; one that is not 0 is never written as 0, but as a
+//   fraction. Inside functions, bases, exponents and quotients nothing is rounded: what a decimal
+//   would cut stands as a fraction, as far as 15 digits go (escribe_dentro.h).
 // - Products and powers from 0 up of sums are multiplied out, term by term, each kind of term in
 //   the place of its first. A sum A + B has first the terms that met a like one, in the order of
 //   B, then the others of A, then those of B. semejantes.h says which terms are alike.

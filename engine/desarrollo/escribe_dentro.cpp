@@ -42,10 +42,11 @@ void EscribeSumando(const TablaSímbolos& tabla, std::string& texto, const Coefi
 
 void EscribeExponenteNúmero(const TablaSímbolos& tabla, std::string& texto,
                             const Coeficiente& valor) {
-    const bool entre = !EsDecimal(tabla, valor);
+    const Coeficiente escrito = DevEscritoDentro(tabla, valor);
+    const bool entre = !EsDecimal(tabla, escrito);
     if (entre)
         texto += '(';
-    EscribeSumando(tabla, texto, valor, "", texto.size());
+    EscribeSumando(tabla, texto, escrito, "", texto.size());
     if (entre)
         texto += ')';
 }

@@ -62,7 +62,7 @@ Literal Asienta(TablaSímbolos& tabla, const Literal& literal) {
         } else {
             Términos exponente = DevExponente(tabla, literal, i, fin);
             exponente = tabla.clase == ClaseDesarrollo::Completo
-                            ? Cierra(tabla, SobreUnDenominador(tabla, exponente))
+                            ? DevUnCociente(tabla, exponente)
                             : DevFormaInterior(tabla, std::move(exponente));
             const Literal potencia =
                 DevPotenciaDe(tabla, tabla.IdDe(literal[i].símbolo), exponente);

@@ -286,15 +286,15 @@ FracciónAbierta Eleva(TablaSímbolos& tabla, FracciónAbierta f, std::int64_t n
     potencia.arriba = eleva(f.arriba);
     potencia.abajo = eleva(f.abajo);
     potencia.signoAbajo = f.signoAbajo && n % 2 != 0;
-    for (auto& [suma, exponente] : f.sumas) {
+    for (Potencia& suya : f.sumas) {
         std::int64_t total = 0;
-        if (__builtin_mul_overflow(exponente, n, &total))
+        if (__builtin_mul_overflow(suya.exponente, n, &total))
             throw ErrorEjecución(Desbordamiento);
         if (n > 0) {
-            potencia.sumas.push_back({std::move(suma), total});
+            potencia.sumas.push_back({std::move(suya.suma), total});
             continue;
         }
-        const ConNúmero grupo = DevGrupo(tabla, suma);
+        const ConNúmero grupo = DevGrupo(tabla, suya.suma);
         potencia.coeficiente *= grupo.número.Potencia(total);
         Literal unido;
         MultiplicaLiterales(tabla, potencia.arriba, {{grupo.grupo, total}}, unido);

@@ -127,6 +127,13 @@ FracciónAbierta DevFracción(TablaSímbolos& tabla, const Lados& lados) {
                       SinSigno(DevInversa(tabla, Abre(tabla, lados.denominador))));
 }
 
+Términos DevUnCociente(TablaSímbolos& tabla, const Términos& suma) {
+    if (!HayCocientes(tabla, suma))
+        return suma;
+    const Lados lados = DevLados(tabla, SobreUnDenominador(tabla, suma), 1);
+    return lados.numerador.empty() ? Términos() : Cierra(tabla, DevFracción(tabla, lados));
+}
+
 // Numbers that the text cuts can make one side a multiple of the other: what is written is reduced.
 std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio) {
     if (lados.numerador.empty())

@@ -19,12 +19,14 @@ Lados DevLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& div
 // The fraction that they are, reduced.
 FracciónAbierta DevFracción(TablaSímbolos& tabla, const Lados& lados);
 
+// A sum as one term, a quotient of both sides multiplied out; or itself where it holds none.
+Términos DevUnCociente(TablaSímbolos& tabla, const Términos& suma);
+
 // Where a text will stand: whether its numbers are rounded.
 enum class Sitio : std::uint8_t { Fuera, Dentro };
 
-// The text. Where the denominator is a number, or one term, the fraction has whole numbers; where
-// it is a sum, its decimals stay as long as their text loses nothing. Without a denominator
-// decimals are rounded (outside), or stand over one number (inside).
+// The text: a fraction has whole numbers on both sides, in lowest terms. Without a denominator
+// decimals are rounded (outside), or stand over one number (inside) where they would be cut.
 std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio);
 
 } // namespace quiralto

@@ -1,9 +1,8 @@
 // How a complete expansion computes: every value is one fraction.
 //
 // Its forms: one fraction over one denominator, both multiplied out, its common factors cancelled
-// (reduccion.h), negative whole exponents below it (sin_negativos.h). Where the denominator is a
-// number, or one term, the fraction has whole numbers; where it is a sum, its decimals stay as long
-// as their text loses nothing (lados.h). A quotient inside an exponent or an argument is one
+// (reduccion.h), negative whole exponents below it, save those of EXP (sin_negativos.h). A fraction
+// has whole numbers on both sides (lados.h). A quotient inside an exponent or an argument is one
 // fraction likewise.
 // Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <map>
+#include <optional>
 
 namespace quiralto {
 namespace {
@@ -90,6 +91,66 @@ std::string SorteaExpresión(std::uint64_t semilla) {
         else
             conLetras += texto[i];
     return conLetras;
+}
+
+// How far a text may be from what it stands for: half a unit of the last decimal of each
+// coefficient of its sum, and what 15 digits and Doubles lose.
+std::optional<double> DevHolgura(Contexto& contexto, const std::string& texto, double x) {
+    const double mitad = .5 * std::pow(10, -contexto.DígitosRedondeo);
+    double holgura = 0;
+    for (const std::string& término : SeparaTérminos(texto)) {
+        const TérminoSeparado partes = SeparaCoeficiente(término);
+        Programa literal = CompilaExpresión(partes.literal.empty() ? "1" : partes.literal);
+        const auto valor = DevValor(contexto, literal, x);
+        if (!valor)
+            return std::nullopt;
+        constexpr double Dobles = 1e-9;
+        holgura +=
+            std::fabs(*valor) *
+            (1.0001 * mitad + Dobles * std::fabs(std::strtod(partes.coeficiente.c_str(), nullptr)));
+    }
+    return holgura;
+}
+
+// Only the coefficients of the sum are rounded: with 0 and 15 digits as with 8.
+TEST(Desarrollo, SoloRedondeaLosCoeficientesDeLaSuma) {
+    constexpr std::uint64_t Semilla = 30240;
+    constexpr std::uint64_t Cuántas = 1500;
+    constexpr std::array Dígitos = {0, 3, 8, 15};
+    int comparados = 0;
+    for (std::uint64_t i = 0; i < Cuántas; ++i) {
+        Banco banco;
+        banco.contexto.DígitosRedondeo = Dígitos[i % Dígitos.size()];
+        banco.contexto.generador.Siembra(i);
+        const std::string texto = SorteaExpresión(Semilla + i);
+        for (const Clase clase : {Clase::Completo, Clase::Simplificado}) {
+            std::string desarrollo;
+            try {
+                desarrollo = Desarrolla(banco.contexto, clase, texto);
+                EXPECT_EQ(Desarrolla(banco.contexto, clase, desarrollo), desarrollo) << texto;
+            } catch (const ErrorEjecución&) {
+                continue;
+            }
+            Programa antes = CompilaExpresión(texto);
+            Programa después = CompilaExpresión(desarrollo);
+            for (const double x : {.37, 1.3, 2.1, -.7, -1.9, 3.7}) {
+                const auto a = DevValor(banco.contexto, antes, x);
+                const auto b = DevValor(banco.contexto, después, x);
+                constexpr double Cerca = 1e-12;
+                const auto vecino = DevValor(banco.contexto, antes, x * (1 + Cerca));
+                const auto holgura = DevHolgura(banco.contexto, desarrollo, x);
+                if (!a || !b || !vecino || !holgura)
+                    continue;
+                // How much Doubles can say of it.
+                const double ruido = 1e3 * std::fabs(*a - *vecino) + 1e-9 * std::fabs(*a) + 1e-9;
+                EXPECT_NEAR(*a, *b, *holgura + ruido)
+                    << texto << " da " << desarrollo << " en " << x << " con "
+                    << banco.contexto.DígitosRedondeo << " dígitos, semilla " << Semilla + i;
+                ++comparados;
+            }
+        }
+    }
+    EXPECT_GT(comparados, 5000);
 }
 
 std::string DesarrollaConSemilla(Clase clase, const std::string& texto, std::uint64_t semilla) {
