@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <random>
 
 namespace quiralto {
 namespace {
@@ -29,27 +28,7 @@ double ValorDe(const DescripciónOperación& operación, double izquierdo, doubl
     return SóloFinito(operación.valor(izquierdo, derecho, nullptr));
 }
 
-double Sortea(Contexto& contexto) {
-    return std::uniform_real_distribution<double>(0, 1)(contexto.generador);
-}
-
-// One value in each tenth of (-1, 1), in an order of its own.
-std::array<double, PuntosDePrueba::Decena> SorteaDecena(Contexto& contexto) {
-    std::array<double, PuntosDePrueba::Decena> valores{};
-    for (std::size_t i = 0; i < valores.size(); ++i) {
-        const double décima = (static_cast<double>(i) + Sortea(contexto)) / valores.size();
-        const auto lugar = static_cast<std::size_t>(Sortea(contexto) * static_cast<double>(i + 1));
-        valores[i] = valores[lugar];
-        valores[lugar] = 2 * décima - 1;
-    }
-    return valores;
-}
-
 } // namespace
-
-PuntosDePrueba::PuntosDePrueba(const TablaSímbolos& tabla)
-    : tabla_(tabla), fase_(Sortea(tabla.contexto)), segundos_(SorteaDecena(tabla.contexto)) {
-}
 
 PuntosDePrueba& DevPuntos(TablaSímbolos& tabla) {
     if (!tabla.Puntos())
@@ -65,23 +44,11 @@ void PuntosDePrueba::Da(Conjunto conjunto, const Literal& literal, std::size_t d
 }
 
 double PuntosDePrueba::X(Vista vista, std::size_t punto) const {
-    if (vista != Vista::Primera)
-        return segundos_[punto];
-    // Steps of the golden ratio fill the interval evenly, however many are taken.
-    constexpr double Paso = 0.6180339887498949;
-    constexpr double Ancho = 21;
-    constexpr double Principio = -10;
-    const double r = fase_ + Paso * static_cast<double>(punto);
-    return (r - std::floor(r)) * Ancho + Principio;
+    return vista == Vista::Primera ? sorteados_.XAncha(punto) : sorteados_.XEstrecha(punto);
 }
 
 double PuntosDePrueba::Letra(Vista vista, double lugar, std::size_t punto) {
-    if (vista != Vista::SegundaDentro)
-        return lugar;
-    auto letra = letras_.find(lugar);
-    if (letra == letras_.end())
-        letra = letras_.emplace(lugar, SorteaDecena(tabla_.contexto)).first;
-    return letra->second[punto];
+    return vista == Vista::SegundaDentro ? sorteados_.LetraEstrecha(lugar, punto) : lugar;
 }
 
 bool PuntosDePrueba::Faltan(Vista vista, const Literal& literal, std::size_t hasta) {

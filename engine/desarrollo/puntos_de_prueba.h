@@ -8,6 +8,7 @@
 // Tested by desarrollo_test.cpp and desarrollo_propiedades_test.cpp.
 #pragma once
 
+#include "engine/desarrollo/puntos_sorteados.h"
 #include "engine/desarrollo/simbolos.h"
 #include "engine/lenguaje/programa.h"
 
@@ -21,10 +22,11 @@ enum class Conjunto : std::uint8_t { Primero, Segundo };
 
 class PuntosDePrueba {
 public:
-    static constexpr std::size_t Decena = 10;
+    static constexpr std::size_t Decena = PuntosSorteados::Decena;
     static constexpr std::size_t MáximosPuntos = 300; // of the first set
 
-    explicit PuntosDePrueba(const TablaSímbolos& tabla);
+    explicit PuntosDePrueba(const TablaSímbolos& tabla)
+        : tabla_(tabla), sorteados_(tabla.contexto) {}
 
     // What a literal part is worth at points that follow each other (at most ten, from a multiple
     // of ten on, below MáximosPuntos; the second set has ten); not a number where it has no value.
@@ -63,9 +65,7 @@ private:
     double CalculaOpaca(Vista vista, const Base& base, std::size_t punto);
 
     const TablaSímbolos& tabla_;
-    double fase_;
-    std::array<double, Decena> segundos_{};
-    std::unordered_map<double, std::array<double, Decena>> letras_;
+    PuntosSorteados sorteados_;
     std::array<std::vector<Valores>, 3> bases_; // a row a base, as far as it was needed
     std::unordered_map<IdBase, Programa> opacas_;
     std::vector<std::pair<Vista, IdBase>> pendientes_;
