@@ -11,7 +11,7 @@ namespace {
 
 // A number of about that many bits; words of all zeros and all ones are frequent, since carries and
 // the estimates of the long division go wrong there first.
-Entero DevAleatorio(std::mt19937_64& azar, std::size_t bits) {
+Entero DevAleatorio(std::mt19937_64& azar, std::uint64_t bits) {
     Entero número = 0;
     for (std::size_t puestos = 0; puestos < bits; puestos += 32) {
         const auto suerte = azar() % 4;

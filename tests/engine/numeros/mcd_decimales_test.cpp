@@ -166,6 +166,7 @@ TEST(Mcm, EsExactoPorGrandeQueSea) {
     EXPECT_THROW(DevMCMReales({0, 0}, {0, 3}), ErrorEjecución);
 }
 
+#ifdef __SIZEOF_INT128__
 // Its factors tell the multiple of whole numbers below 2^31, in 128 bits.
 TEST(Mcm, LoDividenTodosYNingunoMenor) {
     __extension__ using Doble = unsigned __int128;
@@ -193,6 +194,7 @@ TEST(Mcm, LoDividenTodosYNingunoMenor) {
         EXPECT_TRUE(resultado.mantisa == entero) << "seed " << Semilla << ", " << i;
     }
 }
+#endif
 
 } // namespace
 } // namespace quiralto
