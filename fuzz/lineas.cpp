@@ -17,7 +17,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lon
     }
     Exige(EsUtf8(entrada) == (i == entrada.size()), "a text is its characters", entrada);
     const std::string dentro = ConCrLf(entrada);
-    Exige(ConCrLf(ConLf(dentro)) == dentro, "line ends go out and come back", entrada);
+    // A CR that stands before a line end would come back as a part of it.
+    if (dentro.find("\r\r\n") == std::string::npos)
+        Exige(ConCrLf(ConLf(dentro)) == dentro, "line ends go out and come back", entrada);
     std::string juntas;
     for (const std::string_view línea : CortaLíneas(dentro)) {
         Exige(línea.find("\r\n") == std::string_view::npos, "a line holds no line end", entrada);

@@ -32,15 +32,21 @@ inline Programa CompilaEscrito(const std::string& texto) {
 }
 
 // Where both texts have a value it is one value. The first is what was typed; the numbers of the
-// second are rounded.
-inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos) {
+// second are rounded. Of a polynomial whose terms are left out where they round to 0 the points
+// within (-1, 1) are judged: there the missing ones add up to less than a geometric series.
+inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos,
+                            bool sinTérminosNulos = false) {
     const Programa a = CompilaExpresión(typed);
     const Programa b = CompilaExpresión(written);
     const EvaluadorAcotado exacto(a, {});
     const EvaluadorAcotado redondeado(b, DevRedondeo(dígitos));
     for (const double x : PuntosDeOráculo) {
+        if (sinTérminosNulos && std::fabs(x) >= 1)
+            continue;
         const auto va = exacto.Evalúa(x);
-        const auto vb = redondeado.Evalúa(x);
+        auto vb = redondeado.Evalúa(x);
+        if (vb && sinTérminosNulos)
+            vb->cota += DevRedondeo(dígitos).mediaUnidad / (1 - std::fabs(x));
         if (va && vb && !SonCompatibles(*va, *vb))
             Exige(false, "the same value at " + std::to_string(x),
                   std::string(typed) + "  =>  " + std::string(written));
