@@ -84,15 +84,19 @@ void CancelaPareja(TablaSímbolos& tabla, FracciónAbierta& f, std::size_t k, st
         PonSumaAbajo(tabla, f, cociente, veces);
 }
 
+// The sum that times `grupo` is `suma`, or none.
+std::optional<Términos> DevVeces(const TablaSímbolos& tabla, const Términos& suma,
+                                 const Términos& grupo) {
+    if (const auto proporción = DevProporción(suma, grupo))
+        return SumaNúmero(*proporción);
+    return DivideExacta(tabla, suma, grupo);
+}
+
 bool CancelaSuma(TablaSímbolos& tabla, FracciónAbierta& f, std::size_t k, std::size_t i,
                  const Base& grupo) {
     const Términos& suma = f.sumas[k].suma;
     const bool esRaíz = tabla.BaseDe(f.abajo[i].símbolo).clase == ClaseBase::Función;
-    std::optional<Términos> cociente;
-    if (const auto proporción = DevProporción(suma, grupo.contenido))
-        cociente = SumaNúmero(*proporción);
-    else
-        cociente = DivideExacta(tabla, suma, grupo.contenido);
+    std::optional<Términos> cociente = DevVeces(tabla, suma, grupo.contenido);
     if (cociente) {
         if (esRaíz)
             CancelaEnRaíz(tabla, f, k, i, *cociente);
