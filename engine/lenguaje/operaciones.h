@@ -206,13 +206,29 @@ constexpr const DescripciónOperación* BuscaOperador(char c) {
     return nullptr;
 }
 
+// Whether the function's name and parenthesis begin the text.
+constexpr bool EmpiezaCon(std::string_view texto, const DescripciónOperación& fila) {
+    return !fila.EsBinaria() && texto.starts_with(fila.nombre) &&
+           texto.substr(fila.nombre.size()).starts_with('(');
+}
+
 // The row of the function whose name and parenthesis begin the text, or null.
 constexpr const DescripciónOperación* BuscaFunción(std::string_view texto) {
     for (const DescripciónOperación& fila : TablaOperaciones)
-        if (!fila.EsBinaria() && texto.starts_with(fila.nombre) &&
-            texto.substr(fila.nombre.size()).starts_with('('))
+        if (EmpiezaCon(texto, fila))
             return &fila;
     return nullptr;
+}
+
+// Whether a call of the function of the row, or of one below, begins the text.
+constexpr bool EmpiezaDesde(std::string_view texto, const DescripciónOperación& fila) {
+    bool desde = false; // no pointers: with its checks for null g++ 12 takes none for a constant
+    for (const DescripciónOperación& otra : TablaOperaciones) {
+        desde = desde || otra.código == fila.código;
+        if (desde && EmpiezaCon(texto, otra))
+            return true;
+    }
+    return false;
 }
 
 // Whether each argument in the row's derivative stands in parentheses, so that no operator in it
@@ -226,8 +242,7 @@ constexpr bool SeDeriva(const DescripciónOperación& fila) {
         if (texto[i] == 'u' && (texto[i - 1] != '(' || texto[i + 1] != ')'))
             return false;
         const bool empieza = i > marca && esLetra(texto[i]) && !esLetra(texto[i - 1]);
-        if (const auto* const función = empieza ? BuscaFunción(texto.substr(i)) : nullptr;
-            función != nullptr && función >= &fila)
+        if (empieza && EmpiezaDesde(texto.substr(i), fila))
             return false;
     }
     return texto.find(")D") == texto.rfind(")D") &&
