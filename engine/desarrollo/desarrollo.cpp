@@ -1,6 +1,8 @@
 #include "engine/desarrollo/desarrollo.h"
 
 #include "engine/desarrollo/acumulada.h"
+#include "engine/desarrollo/escribe.h"
+#include "engine/desarrollo/forma_final.h"
 #include "engine/desarrollo/reglas_completo.h"
 #include "engine/desarrollo/reglas_simplificado.h"
 #include "engine/desarrollo/semejantes.h"
@@ -102,12 +104,7 @@ std::string SumaDesarrollo(Contexto& contexto, std::string_view a, std::string_v
     TablaSímbolos tabla(contexto, ClaseDesarrollo::Simplificado);
     Acumulada suma = LeeSuma(tabla, a);
     suma.Añade(tabla, LeeSuma(tabla, b), 1);
-    std::string texto;
-    for (const Término& término : suma.Cerrada())
-        EscribeTérmino(texto, término.coeficiente.Escrito(contexto.DígitosRedondeo).ADouble(),
-                       término.literal.empty() ? std::string_view()
-                                               : tabla.BaseDe(término.literal[0].símbolo).texto);
-    return texto.empty() ? "0" : SimplificaSignos(texto);
+    return SimplificaSignos(EscribeSuma(tabla, DevFormaFinal(tabla, suma.Cerrada())));
 }
 
 bool MismaExpresión(Contexto& contexto, const std::string& p, const std::string& q) {

@@ -498,6 +498,7 @@ TEST(SumaDesarrollo, PoneDelanteLosTérminosQueHallanSemejante) {
         {"-X", "X^2", "-X+X^2"},
         {"2/X", "3/X", "5/X"},
         {"X", "(2*X)", "X+(2*X)"},
+        {".000000000001*X", "X^2", "X/1000000000000+X^2"},
     };
     for (const auto& caso : casos) {
         Banco banco;
