@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <ranges>
+#include <numeric>
 
 namespace quiralto {
 namespace {
@@ -66,7 +66,7 @@ void ÍndiceSemejantes::Recoge(Huella& huella, const std::array<double, Decena>&
         puntos.Da(Conjunto::Primero, literal, 0, {&valor, 1});
         huella.constante = true;
         huella.valores.fill(valor);
-        std::ranges::copy(std::views::iota(std::size_t{0}, Decena), huella.lugares.begin());
+        std::iota(huella.lugares.begin(), huella.lugares.end(), std::uint16_t{0});
         huella.cuántos = std::isnan(valor) ? 0 : Decena;
         huella.dicen = Redondea0(valor) ? 0 : huella.cuántos;
     } else {
