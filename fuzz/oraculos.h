@@ -31,23 +31,35 @@ inline Programa CompilaEscrito(const std::string& texto) {
     }
 }
 
+// What a text may leave out because it rounds to 0.
+struct Licencia {
+    bool términos = false; // of a polynomial: the points within (-1, 1) are judged, where the
+                           // missing ones add up to less than a geometric series
+    long raíces = 0;       // of so many factors, X-r written as X
+};
+
 // Where both texts have a value it is one value. The first is what was typed; the numbers of the
-// second are rounded. Of a polynomial whose terms are left out where they round to 0 the points
-// within (-1, 1) are judged: there the missing ones add up to less than a geometric series.
+// second are rounded.
 inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos,
-                            bool sinTérminosNulos = false) {
+                            const Licencia& licencia = {}) {
     const Programa a = CompilaExpresión(typed);
     const Programa b = CompilaExpresión(written);
     const EvaluadorAcotado exacto(a, {});
     const EvaluadorAcotado redondeado(b, DevRedondeo(dígitos));
+    const long double media = DevRedondeo(dígitos).mediaUnidad;
     for (const double x : PuntosDeOráculo) {
-        if (sinTérminosNulos && std::fabs(x) >= 1)
+        const long double tamaño = std::fabs(x);
+        if (licencia.términos && tamaño >= 1)
             continue;
         const auto va = exacto.Evalúa(x);
         auto vb = redondeado.Evalúa(x);
-        if (vb && sinTérminosNulos)
-            vb->cota += DevRedondeo(dígitos).mediaUnidad / (1 - std::fabs(x));
-        if (va && vb && !SonCompatibles(*va, *vb))
+        if (!va || !vb)
+            continue;
+        if (licencia.términos)
+            vb->cota += media / (1 - tamaño);
+        vb->cota +=
+            static_cast<long double>(licencia.raíces) * media / tamaño * std::fabs(vb->valor);
+        if (!SonCompatibles(*va, *vb))
             Exige(false, "the same value at " + std::to_string(x),
                   std::string(typed) + "  =>  " + std::string(written));
     }

@@ -4,6 +4,8 @@
 #include "fuzz/gramatica.h"
 #include "fuzz/oraculos.h"
 
+#include <algorithm>
+
 using namespace quiralto;
 
 // Whether no X stands behind a fraction bar.
@@ -26,12 +28,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lon
     const Corrida simplificada(banco.contexto, f, "Simplificar función racional");
     for (const std::string_view principio : {"'Simplificación :", "Simplificación :"})
         if (const auto texto = simplificada.TextoTras(principio))
-            ExigeMismoValor(normal, *texto, cifras, EsPolinomio(*texto));
+            ExigeMismoValor(normal, *texto, cifras, {.términos = EsPolinomio(*texto)});
     // The quotient by a factor whose root is rounded carries the rounding on.
     constexpr int CifrasDeMenos = 3;
     const Corrida factorizada(banco.contexto, f + ",-10,10", "Factorizar función racional");
     if (const auto texto = factorizada.TextoTras("'Factorización :"))
-        ExigeMismoValor(normal, *texto, cifras - CifrasDeMenos, EsPolinomio(*texto));
+        ExigeMismoValor(
+            normal, *texto, cifras - CifrasDeMenos,
+            {.términos = EsPolinomio(*texto), .raíces = std::ranges::count(*texto, 'X')});
     Corrida(banco.contexto, f + "," + g, "Máximo común divisor función racional");
     Corrida(banco.contexto, f + "," + g, "Mínimo común múltiplo función racional");
     return 0;
