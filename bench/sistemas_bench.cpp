@@ -27,29 +27,37 @@ struct Sistema {
     std::string hoja;
 };
 
-Sistema Sortea(int n) {
+// Whole coefficients, or coefficients of two decimals.
+Sistema Sortea(int n, bool decimales = false) {
     std::mt19937 azar(99);
+    const auto texto = [decimales](int centésimas) {
+        const std::string cifras = std::to_string(100 + centésimas % 100);
+        return std::to_string(centésimas / 100) + (decimales ? '.' + cifras.substr(1) : "");
+    };
+    const auto fracción = [&] { return decimales ? static_cast<int>(azar() % 100) : 0; };
     Sistema sistema{Eigen::MatrixXd(n, n), Eigen::VectorXd(n), {}, {}};
     for (int i = 0; i < n; ++i) {
         std::string lado;
         for (int j = 0; j < n; ++j) {
-            const int coeficiente = static_cast<int>(azar() % 19) - 9 + (i == j ? 40 : 0);
-            sistema.matriz(i, j) = coeficiente;
-            lado += (coeficiente < 0 ? "-" : "+") + std::to_string(std::abs(coeficiente)) + "*X(" +
+            const int coeficiente =
+                100 * (static_cast<int>(azar() % 19) - 9 + (i == j ? 40 : 0)) + fracción();
+            sistema.matriz(i, j) = coeficiente / 100.0;
+            lado += (coeficiente < 0 ? "-" : "+") + texto(std::abs(coeficiente)) + "*X(" +
                     std::to_string(j + 1) + ")";
         }
-        const int constante = static_cast<int>(azar() % 199) - 99;
-        sistema.constantes(i) = constante;
+        const int constante = 100 * (static_cast<int>(azar() % 199) - 99) + fracción();
+        sistema.constantes(i) = constante / 100.0;
         lado.erase(0, lado.front() == '+' ? 1 : 0);
         sistema.ecuaciones.push_back(
-            Sustituye1(lado + (constante < 0 ? "+" : "-") + std::to_string(std::abs(constante))));
-        sistema.hoja += (i == 0 ? "" : "\r\n") + lado + "=" + std::to_string(constante);
+            Sustituye1(lado + (constante < 0 ? "+" : "-") + texto(std::abs(constante))));
+        sistema.hoja += (i == 0 ? "" : "\r\n") + lado + "=" + (constante < 0 ? "-" : "") +
+                        texto(std::abs(constante));
     }
     return sistema;
 }
 
-void Orden_(benchmark::State& estado) {
-    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)));
+void Orden_(benchmark::State& estado, bool decimales) {
+    const Sistema sistema = Sortea(static_cast<int>(estado.range(0)), decimales);
     Banco pantalla;
     for (auto _ : estado) {
         Hoja hoja(sistema.hoja);
@@ -109,7 +117,14 @@ void LuDeEigen(benchmark::State& estado) {
     }
 }
 
-BENCHMARK(Orden_)->Name("la orden entera")->RangeMultiplier(2)->Range(32, 256);
+BENCHMARK_CAPTURE(Orden_, enteros, false)
+    ->Name("la orden entera")
+    ->RangeMultiplier(2)
+    ->Range(32, 256);
+BENCHMARK_CAPTURE(Orden_, decimales, true)
+    ->Name("la orden entera, decimales")
+    ->RangeMultiplier(2)
+    ->Range(32, 256);
 BENCHMARK(Lectura)->Name("lectura y desarrollo")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(LecturaLlana)->Name("lectura llana")->RangeMultiplier(2)->Range(32, 256);
 BENCHMARK(Eliminación)->Name("eliminación")->RangeMultiplier(2)->Range(32, 256);
