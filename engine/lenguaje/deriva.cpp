@@ -103,7 +103,11 @@ private:
     void Escribe(std::string_view texto) {
         if (escrito_.size() + texto.size() > MáximoTexto)
             throw ErrorEjecución(EspacioDeCadenasInsuficiente);
+        constexpr std::size_t LetrasEntrePreguntas = std::size_t{1} << 18U;
+        const std::size_t antes = escrito_.size() / LetrasEntrePreguntas;
         escrito_ += texto;
+        if (escrito_.size() / LetrasEntrePreguntas != antes)
+            contexto_.Vigila();
     }
 
     // The text as it stands: what is written and, from the top of the stack down, what waits.
@@ -117,7 +121,7 @@ private:
             RecorreTexto(pendiente.trozo, añade);
             añade(")D");
         });
-        return ResuelveMarcas(texto);
+        return ResuelveMarcas(contexto_, texto);
     }
 
     // The result of a rule, piece by piece: a text as it stands, or a piece still to be derived.
@@ -343,7 +347,10 @@ void Derivador::MarcaReescrita(std::string_view texto, const Trozo& u) {
 
 std::string Deriva(Contexto& contexto, std::string_view f, const ObservadorDeRondas& observa) {
     const std::string texto = EncierraBases(f);
-    return SimplificaSignos(ResuelveMarcas(Derivador(contexto, texto).Deriva(observa)));
+    const std::string derivada =
+        ResuelveMarcas(contexto, Derivador(contexto, texto).Deriva(observa));
+    contexto.Vigila();
+    return SimplificaSignos(derivada);
 }
 
 } // namespace quiralto

@@ -10,6 +10,9 @@
 namespace quiralto {
 namespace {
 
+// The text of a derivative may be as long as any text.
+constexpr std::size_t LetrasEntrePreguntas = std::size_t{1} << 18U;
+
 // Whether (-b)^e could differ from -(b^e), for the power whose "^" stands at i: anything but a
 // plain odd whole exponent that is no base itself.
 bool ElSignoCuenta(std::string_view texto, std::size_t i) {
@@ -126,7 +129,7 @@ std::string EncierraBases(std::string_view f) {
     return LectorDePotencias(f).DevEncerrado();
 }
 
-std::string ResuelveMarcas(std::string_view marcado) {
+std::string ResuelveMarcas(Contexto& contexto, std::string_view marcado) {
     std::vector<std::size_t> abiertas;   // the marks Cierra not yet matched
     std::vector<std::size_t> paréntesis; // the marks to be kept, in no order
     LectorDesdeElFinal lector(marcado);
@@ -134,6 +137,8 @@ std::string ResuelveMarcas(std::string_view marcado) {
     bool dePotencia = false; // what the run stands before
     bool enSignos = false;
     for (std::size_t i = marcado.size(); i-- > 0;) {
+        if (i % LetrasEntrePreguntas == 0)
+            contexto.Vigila();
         const char c = marcado[i];
         if (c == Cierra) {
             abiertas.push_back(i);
@@ -164,6 +169,8 @@ std::string ResuelveMarcas(std::string_view marcado) {
     resuelto.reserve(marcado.size());
     auto siguiente = paréntesis.begin();
     for (std::size_t i = 0; i < marcado.size(); ++i) {
+        if (i % LetrasEntrePreguntas == 0)
+            contexto.Vigila();
         const char c = marcado[i];
         if (c != Abre && c != Cierra) {
             resuelto += c;

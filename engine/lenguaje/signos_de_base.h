@@ -4,6 +4,8 @@
 // Tested by deriva_test.cpp.
 #pragma once
 
+#include "engine/base/contexto.h"
+
 #include <string>
 #include <string_view>
 
@@ -21,7 +23,7 @@ std::string EncierraBases(std::string_view f);
 
 // Makes the marks around a text that begins with a negative power parentheses, where they make a
 // difference, and drops all others. Signs are counted as they will be folded: "*\x01--2^X\x02"
-// needs none.
-std::string ResuelveMarcas(std::string_view marcado);
+// needs none. The watcher is asked.
+std::string ResuelveMarcas(Contexto& contexto, std::string_view marcado);
 
 } // namespace quiralto

@@ -161,12 +161,13 @@ template <typename F> std::string PliegaSignos(std::string_view texto, F alEscri
         alEscribir(lugar);
     };
     for (std::size_t i = 0; i < texto.size();) {
-        if (!EsSigno(texto[i])) {
-            escribe(texto[i], i);
-            ++i;
+        const std::size_t primero = i;
+        while (i < texto.size() && !EsSigno(texto[i]))
+            alEscribir(i++);
+        if (i > primero) {
+            plegado.append(texto.substr(primero, i - primero));
             continue;
         }
-        const std::size_t primero = i;
         bool negativo = false;
         for (; i < texto.size() && EsSigno(texto[i]); ++i)
             negativo ^= texto[i] == '-';

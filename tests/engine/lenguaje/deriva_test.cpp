@@ -576,6 +576,21 @@ TEST(Deriva, PreguntaAlVigilante) {
     EXPECT_THROW(Deriva(banco.contexto, suma), OrdenCancelada);
 }
 
+// A derivative that is far longer than what it is of: it is written, and then read twice.
+TEST(Deriva, PreguntaAlVigilanteMientrasEscribe) {
+    Banco banco;
+    std::size_t preguntas = 0;
+    banco.vigilante.continúa = [&] { return ++preguntas > 0; };
+    std::string producto = "SIN(X)";
+    for (int i = 1; i < 100; ++i)
+        producto += "*SIN(X)";
+    const std::string primera = Deriva(banco.contexto, producto);
+    preguntas = 0;
+    const std::string segunda = Deriva(banco.contexto, primera);
+    EXPECT_GT(segunda.size(), 2'000'000U);
+    EXPECT_GE(preguntas, 3 * (segunda.size() >> 18U));
+}
+
 TEST(Deriva, RechazaLoQueNoEsDelLenguaje) {
     for (const char* texto :
          {"", "(", ")", "()", "X)", "(X", "FOO(X)", "XX", "SIN", "SIN(X", "SINX", "-"}) {
