@@ -148,6 +148,7 @@ private:
     void DerivaTrozo(Trozo t);
     void DerivaSumaOResta(const Trozo& u, const Trozo& v, bool resta);
     void DerivaProducto(const Trozo& u, const Trozo& v);
+    template <typename F> bool DerivaDos(const Trozo& u, const Trozo& v, F escribe);
     void DerivaCociente(const Trozo& u, const Trozo& v);
     void DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t);
     void DerivaFunción(const Trozo& t);
@@ -246,24 +247,37 @@ void Derivador::DerivaProducto(const Trozo& u, const Trozo& v) {
     }
 }
 
-void Derivador::DerivaCociente(const Trozo& u, const Trozo& v) {
+// What `escribe` writes of two pieces of which one at least has X, in parentheses where both have;
+// false, and "0", where none has.
+template <typename F> bool Derivador::DerivaDos(const Trozo& u, const Trozo& v, F escribe) {
     const bool ux = ContieneX(u);
     const bool vx = ContieneX(v);
-    if (!ux && !vx)
-        return Pon("0");
+    if (!ux && !vx) {
+        Pon("0");
+        return false;
+    }
     if (ux && vx)
         Pon("(");
-    if (ux) {
-        Pon(v);
-        PorDerivada(u);
-    }
-    if (vx) {
-        Pon("-");
-        Pon(u);
-        PorDerivada(v);
-    }
+    escribe(ux, vx);
     if (ux && vx)
         Pon(")");
+    return true;
+}
+
+void Derivador::DerivaCociente(const Trozo& u, const Trozo& v) {
+    const auto escribe = [&](bool ux, bool vx) {
+        if (ux) {
+            Pon(v);
+            PorDerivada(u);
+        }
+        if (vx) {
+            Pon("-");
+            Pon(u);
+            PorDerivada(v);
+        }
+    };
+    if (!DerivaDos(u, v, escribe))
+        return;
     Pon("/");
     Pon(v);
     Pon("^2");
@@ -271,32 +285,26 @@ void Derivador::DerivaCociente(const Trozo& u, const Trozo& v) {
 
 // t is the whole power u^v.
 void Derivador::DerivaPotencia(const Trozo& u, const Trozo& v, const Trozo& t) {
-    const bool ux = ContieneX(u);
-    const bool vx = ContieneX(v);
-    if (!ux && !vx)
-        return Pon("0");
-    if (ux && vx)
-        Pon("(");
-    if (vx) {
-        Pon(t);
-        PorDerivada(v);
-        Pon("*LOG(");
-        Pon(u);
-        Pon(")");
-    }
-    if (ux && vx)
-        Pon("+");
-    if (ux) {
-        Pon(v);
-        Pon("*");
-        Pon(u);
-        Pon("^(");
-        Pon(v);
-        Pon("-1)");
-        PorDerivada(u);
-    }
-    if (ux && vx)
-        Pon(")");
+    DerivaDos(u, v, [&](bool ux, bool vx) {
+        if (vx) {
+            Pon(t);
+            PorDerivada(v);
+            Pon("*LOG(");
+            Pon(u);
+            Pon(")");
+        }
+        if (ux && vx)
+            Pon("+");
+        if (ux) {
+            Pon(v);
+            Pon("*");
+            Pon(u);
+            Pon("^(");
+            Pon(v);
+            Pon("-1)");
+            PorDerivada(u);
+        }
+    });
 }
 
 void Derivador::DerivaFunción(const Trozo& t) {

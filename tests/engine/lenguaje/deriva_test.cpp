@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace quiralto {
 namespace {
@@ -23,6 +24,11 @@ struct Fila {
     const char* texto;
     const char* derivada;
 };
+
+void CompruebaDerivadas(std::span<const Fila> filas) {
+    for (const Fila& fila : filas)
+        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+}
 
 TEST(Deriva, EnseñaElTextoDeCadaRonda) {
     const struct {
@@ -123,8 +129,7 @@ TEST(Deriva, EscribeCadaRegla) {
         {"ARCSIN(X)", "(SQR(-(X)*(X)+1)*1-(X)*(-(X)*1+(X)*-1)/(2*SQR(-(X)*(X)+1)))"
                       "/SQR(-(X)*(X)+1)^2/(1+((X)/SQR(-(X)*(X)+1))^2)"},
     };
-    for (const Fila& fila : filas)
-        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+    CompruebaDerivadas(filas);
 }
 
 TEST(Deriva, SinXDentroDaCero) {
@@ -154,8 +159,7 @@ TEST(Deriva, SeparaDondeDebe) {
         {"EXP(X)*EXP(X)", "(EXP(X)*1*EXP(X)+EXP(X)*1*EXP(X))"},
         {"SIN(X)^2", "2*SIN(X)^(2-1)*1*COS(X)"},
     };
-    for (const Fila& fila : filas)
-        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+    CompruebaDerivadas(filas);
 }
 
 TEST(Deriva, ElSignoDelantero) {
@@ -180,8 +184,7 @@ TEST(Deriva, ElSignoDelantero) {
         {"X^-X", "(X^-X*-1*LOG(X)-X*X^(-X-1)*1)"},
         {"EXP(-X^2/2)", "2*-2*X^(2-1)*1/2^2*EXP(-X^2/2)"},
     };
-    for (const Fila& fila : filas)
-        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+    CompruebaDerivadas(filas);
 }
 
 TEST(Deriva, EncierraLasPotenciasConSigno) {
@@ -201,8 +204,7 @@ TEST(Deriva, EncierraLasPotenciasConSigno) {
         {"X*-2^3", "-2^3*1"},
         {"SIN(X)*-EXP(X)^3", "(SIN(X)*-3*EXP(X)^(3-1)*1*EXP(X)-EXP(X)^3*1*COS(X))"},
     };
-    for (const Fila& fila : filas)
-        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+    CompruebaDerivadas(filas);
 }
 
 TEST(Deriva, EncierraLasCadenasDePotencias) {
@@ -221,8 +223,7 @@ TEST(Deriva, EncierraLasCadenasDePotencias) {
         {"5/X^2", "-5*2*X^(2-1)*1/X^2^2"},
         {"X/3^X", "(3^X*1-X*3^X*1*LOG(3))/3^X^2"},
     };
-    for (const Fila& fila : filas)
-        EXPECT_EQ(DerivadaDe(fila.texto), fila.derivada) << fila.texto;
+    CompruebaDerivadas(filas);
 }
 
 // The place behind the operand, without its powers, that begins at i.
