@@ -52,8 +52,8 @@ std::optional<double> DevValor(Contexto& contexto, Programa& programa, double x)
 
 struct EvaluadorDeBloques::Partes {
     explicit Partes(const Programa& original) : Partes(Reduce(original), original) {}
-    Partes(std::optional<Programa> reducido, const Programa& original)
-        : programa(reducido ? std::move(*reducido) : original),
+    Partes(const std::optional<Programa>& reducido, const Programa& original)
+        : programa(reducido ? *reducido : original),
           porBloques(reducido && PlaneaBloque(programa, plan)), ejecutor(plan) {}
 
     Programa programa; // for the values that need the scalar run

@@ -49,7 +49,7 @@ template <typename Varios> QUIRALTO_EN_LÍNEA void Lee(const double* desde, Vari
 template <typename Varios>
 constexpr auto Lugares = std::make_index_sequence<Carriles * sizeof(double) / sizeof(Varios)>{};
 
-// v - v is 0 for a finite v and not a number for any other: the sum over all tells.
+// v * 0 is 0 for a finite v and not a number for any other: the sum over all tells.
 template <typename Varios, std::size_t Cantidad>
 QUIRALTO_EN_LÍNEA bool SonFinitos(const std::array<Varios, Cantidad>& sumas) {
     Varios suma = sumas[0];
@@ -69,7 +69,7 @@ QUIRALTO_EN_LÍNEA bool SonFinitos(std::size_t cantidad, const double* fila,
     ((sumas[Lugar] = Varios{}), ...);
     for (std::size_t i = 0; i < cantidad; i += Carriles) {
         (Lee(fila + i + Lugar * sizeof(Varios) / sizeof(double), leídos[Lugar]), ...);
-        ((sumas[Lugar] += leídos[Lugar] - leídos[Lugar]), ...);
+        ((sumas[Lugar] += leídos[Lugar] * Varios{}), ...);
     }
     return SonFinitos(sumas);
 }
@@ -112,7 +112,7 @@ QUIRALTO_EN_LÍNEA void EjecutaVarios(double* destino, const Operandos& desde, s
         LeeOperando<Derecha>(desde.c + lugar, desde.d + lugar, derecho);
     Combina<Código>(izquierdo, derecho, resultado);
     std::memcpy(destino + lugar, &resultado, sizeof(Varios));
-    suma += resultado - resultado;
+    suma += resultado * Varios{};
 }
 
 template <typename Varios, Operación Código, Operación Izquierda, Operación Derecha,
