@@ -124,7 +124,7 @@ TEST_F(Enlace, LasInterseccionesSonLasSolucionesDeLaDiferencia) {
     Define(1, "X+2");
     QMenu& menú = AbreMenúFunción(0);
     EXPECT_EQ(DevEntrada(menú, "Intersecciones_1")->text(),
-              QStringLiteral("&Intersecciones con f1"));
+              QStringLiteral("Intersecciones con f&1"));
     EXPECT_EQ(DevEntrada(menú, "Intersecciones_0"), nullptr);
     EXPECT_EQ(DevEntrada(menú, "Intersecciones_2"), nullptr);
     Elige(menú, "Intersecciones_1");
@@ -144,7 +144,11 @@ TEST_F(Enlace, UnTextoQueNoEsFórmulaNoSeLleva) {
     QMenu& menú = AbreMenúFunción(0);
     EXPECT_EQ(DevEntrada(menú, "LlevarALaHoja"), nullptr);
     menú.close();
+    EXPECT_FALSE(Busca<QToolButton>("cmdMenúfx_0").isEnabled());
+    QTest::keyClicks(&caja, QStringLiteral("1"));
+    EXPECT_TRUE(Busca<QToolButton>("cmdMenúfx_0").isEnabled());
     caja.clear();
+    EXPECT_FALSE(Busca<QToolButton>("cmdMenúfx_0").isEnabled());
 }
 
 TEST_F(Enlace, DibujarPoneLaFunciónEnLaPrimeraCajaLibre) {
@@ -212,7 +216,7 @@ TEST_F(Enlace, ElMenúDeLaHojaTieneLasÓrdenesQueValen) {
     const QStringList títulos = DevTítulos(menú);
     EXPECT_TRUE(títulos.contains(QStringLiteral("Cálculo numérico con una variable")));
     EXPECT_TRUE(títulos.contains(QStringLiteral("Hallar soluciones")));
-    EXPECT_TRUE(títulos.contains(QStringLiteral("&Dibujar")));
+    EXPECT_TRUE(títulos.contains(QStringLiteral("Dibu&jar")));
     EXPECT_FALSE(títulos.contains(QStringLiteral("Hallar derivada")));
     EXPECT_FALSE(títulos.contains(QStringLiteral("Números")));
     Elige(menú, "HallarSoluciones");
@@ -222,6 +226,27 @@ TEST_F(Enlace, ElMenúDeLaHojaTieneLasÓrdenesQueValen) {
     EXPECT_EQ(DevEntrada(vacía, "HallarSoluciones"), nullptr);
     EXPECT_NE(DevEntrada(vacía, "BuscarOrden"), nullptr);
     vacía.close();
+}
+
+// The entries are told apart by a letter, from the toolkit's own too.
+TEST_F(Enlace, NingúnMenúContextualRepiteUnaLetraDeAcceso) {
+    Define(0, "X^2");
+    Define(1, "X");
+    Define(2, "1");
+    Pon("X^2-4,-5,5\n'Solución en X= 2");
+    const auto comprueba = [](QMenu& menú) {
+        QStringList letras;
+        for (const QAction* acción : menú.actions())
+            if (const QString letra = QKeySequence::mnemonic(acción->text()).toString();
+                !letra.isEmpty())
+                letras += letra;
+        EXPECT_EQ(letras.removeDuplicates(), 0) << letras.join(u' ').toStdString();
+        EXPECT_GE(letras.size(), 3);
+        menú.close();
+    };
+    comprueba(AbreMenú(0));
+    comprueba(AbreMenú(1));
+    comprueba(AbreMenúFunción(0));
 }
 
 TEST_F(Enlace, LaTeclaDelMenúEsLaDeLaLíneaDelCursor) {

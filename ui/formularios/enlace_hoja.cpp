@@ -62,10 +62,10 @@ EnlaceHoja::EnlaceHoja(Contexto& contexto, Ejecutor& ejecutor, const Partes& par
 void EnlaceHoja::AbreMenúHoja(QMenu& menú, const QString& línea) {
     QAction* const antes = DevPrimera(menú);
     if (const auto función = DevFunciónDeLínea(contexto_, DevUtf8(línea)))
-        Inserta(menú, antes, QStringLiteral("&Dibujar"), QStringLiteral("Dibujar"), this,
+        Inserta(menú, antes, QStringLiteral("Dibu&jar"), QStringLiteral("Dibujar"), this,
                 [this, texto = DevQString(*función)] { Dibuja(texto); });
     if (DevLugar(línea))
-        Inserta(menú, antes, QStringLiteral("&Llevar el punto X aquí"),
+        Inserta(menú, antes, QStringLiteral("Lle&var el punto X aquí"),
                 QStringLiteral("LlevarPuntoX"), this, [this, línea] { LlevaPuntoX(línea); });
     AñadeÓrdenes(menú, antes);
     menú.insertAction(antes, acciones_.ComentarLíneas);
@@ -105,7 +105,7 @@ void EnlaceHoja::AbreMenúFunción(int índice, QMenu& menú) {
             [this, función] { LlevaALaHoja(función); });
     for (int otra = 0; otra < CantidadFunciones; ++otra)
         if (otra != índice && funciones[otra].estado == EstadoTexto::Fórmula)
-            Inserta(menú, antes, QStringLiteral("&Intersecciones con f%1").arg(otra),
+            Inserta(menú, antes, QStringLiteral("Intersecciones con f&%1").arg(otra),
                     QStringLiteral("Intersecciones_%1").arg(otra), this,
                     [this, resta = DevDiferencia(función, funciones[otra].corregido)] {
                         LlevaALaHoja(resta);

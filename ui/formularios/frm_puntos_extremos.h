@@ -6,8 +6,12 @@
 #include "ui/hoja/caja_formula.h"
 
 #include <QDialog>
+#include <QLabel>
+#include <QTimer>
 
 #include <array>
+#include <chrono>
+#include <cstddef>
 #include <string>
 
 namespace quiralto {
@@ -27,17 +31,24 @@ public:
     // Back to a box, with its text selected.
     void VuelveA(int caja);
 
+    // How long a text may stay as it is before it is told why it cannot be used.
+    static constexpr std::chrono::milliseconds Pausa = std::chrono::seconds(1);
+
 Q_SIGNALS:
     // "Aceptar", with extremes that have passed their checks. Whoever takes them hides the frame,
     // or goes back to a box.
     void aceptados(const quiralto::Ventana& ventana);
 
 private:
+    void DiMotivos(bool trasPausa);
+    QString DevMotivo(std::size_t caja) const;
     void Command1_Click();
     void Command2_Click() { OcultarMarcoConfiguraciónPuntosExtremos(); }
 
     Contexto& contexto_;
     std::array<CajaFormula*, 4> txtPuntosExtremos_{};
+    QLabel* motivo_;
+    QTimer pausa_; // runs while something is being typed
 };
 
 } // namespace quiralto

@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QToolButton>
 
 #include <utility>
 
@@ -114,6 +113,7 @@ void PanelFunciones::CreaFila(int índice) {
 void PanelFunciones::CreaBotónMenú(int índice) {
     const QString función = QStringLiteral("f%1(X)").arg(índice);
     auto* botón = new QToolButton(this);
+    DevFila(índice).cmdMenúfx = botón;
     botón->setObjectName(QStringLiteral("cmdMenúfx_%1").arg(índice));
     botón->setAccessibleName(QStringLiteral("Más de ") + función);
     botón->setToolTip(QStringLiteral("Llevar %1 a la hoja").arg(función));
@@ -176,6 +176,7 @@ void PanelFunciones::ActualizaFunciones(const Escena& escena) {
 void PanelFunciones::Copia(int índice, const FunciónGráfica& función) {
     Fila& fila = DevFila(índice);
     fila.txtfx->Reescribe(DevQString(función.texto));
+    fila.cmdMenúfx->setEnabled(función.estado == EstadoTexto::Fórmula);
     const QSignalBlocker callada(fila.chkfx);
     if (fila.chkfx->isChecked() != función.encendida)
         fila.chkfx->setDown(false); // its mouse button may have gone up over a message

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QTimer>
+#include <QToolButton>
 
 namespace quiralto {
 
@@ -47,6 +48,7 @@ private:
         CajaFormula* txtfx;
         QCheckBox* chkfx;
         QLineEdit* txtFxValor;
+        QToolButton* cmdMenúfx;
         bool dejada = false; // the box has lost the focus, which has not been told yet
     };
 
