@@ -70,6 +70,8 @@ TEST(LectorEstado, DiceQuéLíneaNoLeeríaNinguna) {
         {"X(1)=2\n'nota\nX(1)=2*+", 1},
         {"12,18", {}},
         {"X^2\nX^3", {}},
+        {"X^2\n'nota\n2X,1\nX+", 1},
+        {"12,18\nX^2,5,-5", 1},
     };
     Banco banco;
     for (const auto& caso : casos)

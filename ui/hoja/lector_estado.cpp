@@ -123,10 +123,22 @@ std::string DevTexto(const Forma& forma, const Lectura& lectura,
     return {};
 }
 
+// The first of several lines that no command would read even if it stood alone.
+std::optional<std::size_t> DevErrónea(Contexto& contexto, std::span<const std::string> líneas) {
+    for (std::size_t i = 0; i < líneas.size(); ++i) {
+        const std::span<const std::string> una = líneas.subspan(i, 1);
+        const std::optional<Forma> forma = ReconoceForma(una);
+        if (forma && LeeDatos(contexto, *forma, una).rechazo)
+            return i;
+    }
+    return std::nullopt;
+}
+
 LecturaHoja LeeLíneas(Contexto& contexto, std::span<const std::string> líneas) {
     const std::optional<Forma> forma = ReconoceForma(líneas);
     if (!forma)
-        return {DevCantidad(líneas.size(), "línea de datos", "líneas de datos"), {}};
+        return {DevCantidad(líneas.size(), "línea de datos", "líneas de datos"),
+                DevErrónea(contexto, líneas)};
     if (forma->clase == ClaseForma::Números || forma->clase == ClaseForma::Puntos)
         return {DevNúmeros(líneas), {}};
     const Lectura lectura = LeeDatos(contexto, *forma, líneas);
