@@ -145,6 +145,9 @@ Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma) {
 }
 
 Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma) {
+    // In a system it goes on as a value and is not written: TAN(TAN(1)) keeps its digits.
+    if (tabla.SoloPorLetra() && EsNúmero(suma))
+        return suma;
     suma = DevAsentada(tabla, std::move(suma));
     for (Término& término : suma)
         término.coeficiente = DevEscritoDentro(tabla, término.coeficiente);

@@ -12,7 +12,7 @@ namespace quiralto {
 Términos DevFormaFinal(TablaSímbolos& tabla, Términos suma);
 
 // The same inside a function, a base, an exponent or a quotient: no coefficient is rounded that a
-// fraction can keep.
+// fraction can keep, and a number of a linear system as it is.
 Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma);
 
 // The sum with its exponents settled and its own coefficients as they are.

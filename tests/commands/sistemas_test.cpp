@@ -221,6 +221,15 @@ TEST(Sistemas, ConProductosGruposYCocientesSeCumplenAlSustituir) {
     }
 }
 
+TEST(Sistemas, LoQueEntraEnUnaFunciónNoSeRedondea) {
+    for (const auto& [texto, valor] : std::vector<std::pair<const char*, double>>{
+             {"X(1)=TAN(TAN(1))", std::tan(std::tan(1.0))},
+             {"X(1)=1000^SQR(2)", std::pow(1000, std::sqrt(2.0))},
+             {"EXP(10/3)*X(1)=EXP(SIN(1)*20)", std::exp(std::sin(1.0) * 20 - 10.0 / 3)},
+         })
+        EXPECT_NEAR(LeeSoluciones(Resuelve(texto), {0})[0], valor, 1e-7) << texto;
+}
+
 TEST(Sistemas, DejanElPrefijoComoEstaba) {
     for (const char* texto : {"X(1)=1", "X(1)^2=1", "1/0*X(1)=1", "X(1)=1)"}) {
         Banco banco;
