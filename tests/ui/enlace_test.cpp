@@ -266,7 +266,7 @@ protected:
     // The colour at a logical place of the window of the start.
     QColor DevColorEn(double x, double y, int dx = 0, int dy = 0) {
         QApplication::processEvents();
-        const QImage imagen = visor.DevImagen();
+        const QImage imagen = visor.grab().toImage();
         return imagen.pixelColor(static_cast<int>((x + 10) / 20 * 600) + dx,
                                  static_cast<int>((10 - y) / 20 * 400) + dy);
     }
@@ -376,9 +376,9 @@ TEST_F(Marcadas, ElÁreaSeSombrea) {
 TEST_F(Marcadas, LaImagenCopiadaLasTiene) {
     Define(1, "X^2-4");
     Resuelve(QStringLiteral("X^2-4,-5,5"), "HallarSoluciones");
-    const QImage con = visor.DevImagen();
+    const QImage con = visor.grab().toImage();
     Pulsa("QuitarMarcas");
-    EXPECT_NE(con, visor.DevImagen());
+    EXPECT_NE(con, visor.grab().toImage());
 }
 
 } // namespace

@@ -95,7 +95,7 @@ TEST_F(Escribir, LoMediaEscritoSeAtenúaYCallaHastaLaPausa) {
 TEST_F(Escribir, LoMediaEscritoNoSeCopia) {
     Define(3, "X");
     const auto azules = [&] {
-        Pulsa("CopiarImagen");
+        Pulsa("CopiarGráfica");
         const QImage imagen = QApplication::clipboard()->image();
         int cuenta = 0;
         for (int y = 0; y < imagen.height(); ++y)

@@ -121,11 +121,29 @@ TEST_F(Gráfica, LaBarraTieneOnceEntradasConIconoYTresSeparadores) {
         EXPECT_EQ(entrada.isSeparator(), i == 3 || i == 6 || i == 9) << i;
         if (entrada.isSeparator())
             continue;
-        EXPECT_FALSE(entrada.toolTip().isEmpty()) << i;
         auto& botón = Busca<QToolButton>(("Toolbar1_" + std::to_string(i)).c_str());
         EXPECT_EQ(botón.defaultAction(), &entrada) << i;
-        EXPECT_EQ(botón.text(), entrada.toolTip()) << i; // the full caption, as its name too
+        EXPECT_EQ(botón.text(), entrada.iconText()) << i; // the full caption, as its name too
+        EXPECT_TRUE(entrada.toolTip().startsWith(entrada.iconText() + QStringLiteral(": "))) << i;
+        EXPECT_EQ(botón.toolTip(), entrada.toolTip()) << i;
         EXPECT_FALSE(entrada.icon().pixmap(24).isNull()) << i;
+    }
+}
+
+TEST_F(Gráfica, LosRótulosDeLaBarraDicenLoQueOcurre) {
+    const struct {
+        const char* acción;
+        const char* dice;
+    } casos[] = {
+        {"ZoomEjeX_0", "Eje X X2: el eje abarca el doble"},
+        {"ZoomEjeY_3", "Eje Y /2: el eje abarca la mitad"},
+        {"ZoomEjesXY_5", "Ejes X e Y /8: los ejes abarcan la octava parte"},
+        {"ZoomGráfica_0", "Zoom Gráfica X2: el dibujo, en torno al punto X, se amplía al doble"},
+        {"ZoomGráfica_3", "Zoom Gráfica /2: el dibujo, en torno al punto X, se reduce a la mitad"},
+    };
+    for (const auto& caso : casos) {
+        EXPECT_EQ(Busca<QAction>(caso.acción).toolTip(), QString::fromUtf8(caso.dice));
+        EXPECT_EQ(Busca<QAction>(caso.acción).statusTip(), QString::fromUtf8(caso.dice));
     }
 }
 
@@ -288,6 +306,133 @@ TEST_F(Gráfica, AlCerrarNoHayMensajes) {
 TEST_F(Gráfica, LosBlancosNoSeTecleanEnLasCajas) {
     Teclea("txtfx_0", "x + 1");
     EXPECT_EQ(DevTexto("txtfx_0"), QStringLiteral("X+1"));
+}
+
+TEST_F(Gráfica, ElPuntoXSeTeclea) {
+    auto& caja = Busca<QLineEdit>("txtPuntoX");
+    Define(0, "X");
+    const auto teclea = [&](const char* texto) {
+        caja.setFocus(Qt::TabFocusReason); // which selects what is there
+        QTest::keyClicks(&caja, QString::fromLatin1(texto));
+        QTest::keyClick(&caja, Qt::Key_Return);
+    };
+    teclea("2.123456789012"); // unrounded
+    EXPECT_EQ(caja.text(), QStringLiteral("2.12345678901"));
+    Pulsa("RedondeoNúmeros_15");
+    EXPECT_EQ(DevTexto("txtFxValor_0"), QStringLiteral("2.123456789012"));
+    Pulsa("RedondeoNúmeros_8");
+    txtSalida.setFocus();
+    teclea("2*sqr(4)");
+    EXPECT_EQ(caja.text(), QStringLiteral("4"));
+    EXPECT_EQ(Busca<QScrollBar>("hsx").value(), 40);
+    txtSalida.setFocus();
+    teclea("-.5E1");
+    EXPECT_EQ(caja.text(), QStringLiteral("-5"));
+    txtSalida.setFocus();
+    caja.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&caja, Qt::Key_Delete); // an empty text changes nothing
+    QTest::keyClick(&caja, Qt::Key_Return);
+    EXPECT_EQ(caja.text(), QStringLiteral("-5"));
+    QTest::keyClicks(&caja, QStringLiteral("7"));
+    txtSalida.setFocus(); // leaving it is enough
+    Espera();
+    EXPECT_TRUE(TomaMensajes().empty());
+    EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "10", "-10"}));
+    EXPECT_NE(caja.text(), QStringLiteral("-5"));
+}
+
+TEST_F(Gráfica, UnPuntoXSinCambiarNoPierdeCifras) {
+    auto& caja = Busca<QLineEdit>("txtPuntoX");
+    caja.setFocus();
+    QTest::keyClicks(&caja, QStringLiteral("1/3"));
+    QTest::keyClick(&caja, Qt::Key_Return);
+    Define(0, "3*X-1");
+    Pulsa("RedondeoNúmeros_15");
+    const QString antes = DevTexto("txtFxValor_0");
+    caja.setFocus();
+    QTest::keyClick(&caja, Qt::Key_Return);
+    txtSalida.setFocus();
+    Espera();
+    EXPECT_EQ(DevTexto("txtFxValor_0"), antes);
+}
+
+TEST_F(Gráfica, UnPuntoXRechazadoSeDiceUnaVez) {
+    auto& caja = Busca<QLineEdit>("txtPuntoX");
+    const struct {
+        const char* texto;
+        const char* mensaje;
+    } casos[] = {
+        {"x+1", "Este dato no admite la variable X"},
+        {"1/0", "El argumento dado a la función está fuera de rango, pruebe otro valor"},
+        {"2+", "No está permitido terminar con: +"},
+    };
+    for (const auto& caso : casos) {
+        caja.setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(&caja, QString::fromLatin1(caso.texto));
+        txtSalida.setFocus();
+        Espera();
+        EXPECT_EQ(TomaMensajes(), std::vector{Aviso(caso.mensaje)});
+        EXPECT_EQ(QApplication::focusWidget(), &caja);
+        EXPECT_EQ(caja.selectedText(), caja.text());
+        txtSalida.setFocus(); // it is not held back a second time
+        Espera();
+        EXPECT_TRUE(TomaMensajes().empty());
+        EXPECT_EQ(QApplication::focusWidget(), &txtSalida);
+        EXPECT_EQ(caja.text(), QStringLiteral("0"));
+    }
+}
+
+TEST_F(Gráfica, LoQueSeTecleaEnElPuntoXNoSePierdePorLoDemás) {
+    auto& caja = Busca<QLineEdit>("txtPuntoX");
+    caja.setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&caja, QStringLiteral("1.2"));
+    Pulsa("ZoomGráfica_0");
+    EXPECT_EQ(caja.text(), QStringLiteral("1.2"));
+    Pulsa("ZoomEjeX_0"); // the point stays 0
+    EXPECT_EQ(caja.text(), QStringLiteral("1.2"));
+    Busca<QScrollBar>("hsx").setValue(30); // it moves
+    EXPECT_EQ(caja.text(), QStringLiteral("3"));
+}
+
+TEST_F(Gráfica, ElEjeYSeAjustaALasCurvas) {
+    Pulsa("AjustarEjeY"); // to none
+    EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "10", "-10"}));
+    Define(0, "SIN(X)");
+    Define(1, "40*COS(X)");
+    Pulsa("AjustarEjeY");
+    EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "44", "-44"}));
+    Busca<QCheckBox>("chkfx_1").click();
+    Pulsa("AjustarEjeY");
+    EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "1.1", "-1.1"}));
+    Pulsa("VistaAnterior");
+    EXPECT_EQ(DevExtremos()[2], "44");
+}
+
+TEST_F(Gráfica, EjesIgualesDaLaMismaUnidadEnLosDosEjes) {
+    auto& visor = Busca<QWidget>("VisorFunciones");
+    visor.setFixedSize(600, 400);
+    QTest::qWait(1);
+    Pulsa("EjesIguales");
+    EXPECT_EQ(DevExtremos(), (Extremos{"15", "-15", "10", "-10"}));
+    Pulsa("EjesIguales"); // they are
+    EXPECT_EQ(DevExtremos(), (Extremos{"15", "-15", "10", "-10"}));
+    Pulsa("ZoomEjeX_0");
+    Pulsa("EjesIguales");
+    EXPECT_EQ(DevExtremos(), (Extremos{"30", "-30", "20", "-20"}));
+}
+
+// Through a zoom that moves the point with the axis, and one that has been put elsewhere since.
+TEST_F(Gráfica, LaVistaAnteriorTraeElPuntoXSiSeMovióConElla) {
+    Busca<QScrollBar>("hsx").setValue(40);
+    Pulsa("ZoomEjeX_0");
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("8"));
+    Pulsa("VistaAnterior");
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("4"));
+    Pulsa("ZoomEjeX_0");
+    Busca<QScrollBar>("hsx").setValue(-20);
+    Pulsa("VistaAnterior");
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("-4"));
+    EXPECT_EQ(DevExtremos()[0], "10");
 }
 
 class DiálogoDeExtremos : public Gráfica {

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPrintDialog>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cstdlib>
@@ -131,6 +132,104 @@ TEST_F(Impresión, LaGráficaSeImprimeEnUnaPáginaConSusFuncionesEnColor) {
     EXPECT_GT(Cuenta(página, 255, 0, 255), 50);
     EXPECT_GT(Cuenta(página, 0, 0, 255), 50);
     EXPECT_EQ(Cuenta(página, 255, 0, 0), 0);
+}
+
+// The size of the page in points, and the right and lower ends of what is written on it.
+struct Medidas {
+    double ancho = 0;
+    double alto = 0;
+    double derecha = 0;
+    double abajo = 0;
+};
+
+TEST_F(Impresión, LaPáginaSeTomaEnLaMejorOrientación) {
+    const auto mide = [&] {
+        const Final final = Ejecuta({
+            .palabras = {"/usr/bin/pdftotext", "-bbox", impresora.fichero.toStdString(), "-"},
+            .entrada = {},
+            .entorno = {},
+        });
+        const QString texto = QString::fromStdString(final.salida);
+        const auto mayor = [&](const QString& nombre) {
+            double valor = 0;
+            const QString marca = nombre + QStringLiteral("=\"");
+            for (qsizetype i = texto.indexOf(marca); i >= 0; i = texto.indexOf(marca, i + 1)) {
+                const qsizetype desde = i + marca.size();
+                valor = std::max(valor,
+                                 texto.mid(desde, texto.indexOf(u'"', desde) - desde).toDouble());
+            }
+            return valor;
+        };
+        return Medidas{mayor(QStringLiteral(" width")), mayor(QStringLiteral("height")),
+                       mayor(QStringLiteral("xMax")), mayor(QStringLiteral("yMax"))};
+    };
+    Define(0, "X");
+    auto& visor = Busca<QWidget>("VisorFunciones");
+    visor.setFixedSize(600, 300);
+    QTest::qWait(1);
+    Pulsa("ImprimirGráfica");
+    const Medidas ancha = mide();
+    EXPECT_GT(ancha.ancho, ancha.alto);
+    EXPECT_GT(ancha.derecha, ancha.ancho * 0.9); // "X" stands at the right border
+    visor.setFixedSize(300, 500);
+    QTest::qWait(1);
+    Pulsa("ImprimirGráfica");
+    const Medidas alta = mide();
+    EXPECT_LT(alta.ancho, alta.alto);
+    EXPECT_GT(alta.abajo, alta.alto * 0.9); // the legend at the lower one
+}
+
+TEST_F(Impresión, LosRótulosDeLaGráficaMidenNuevePuntosOMás) {
+    Define(0, "X");
+    Pulsa("ImprimirGráfica");
+    const Final final = Ejecuta({
+        .palabras = {"/usr/bin/pdftotext", "-bbox-layout", impresora.fichero.toStdString(), "-"},
+        .entrada = {},
+        .entorno = {},
+    });
+    const QString texto = QString::fromStdString(final.salida);
+    const QRegularExpression palabra(
+        QStringLiteral("<word [^>]*yMin=\"([0-9.]+)\"[^>]*yMax=\"([0-9.]+)\">[0-9]+</word>"));
+    int rótulos = 0;
+    for (auto i = palabra.globalMatch(texto); i.hasNext(); ++rótulos) {
+        const QRegularExpressionMatch cuál = i.next();
+        EXPECT_GT(cuál.captured(2).toDouble() - cuál.captured(1).toDouble(), 8.5);
+    }
+    EXPECT_GT(rótulos, 6);
+}
+
+TEST_F(Impresión, LaVistaPreviaMuestraLoMismoYPuedeImprimirlo) {
+    Define(2, "X^2");
+    txtSalida.setPlainText(QStringLiteral("X^2-4,-5,5"));
+    const struct {
+        const char* acción;
+        const char* última;
+    } casos[] = {{"PrevisualizarGráfica", "f2(X)=X^2"}, {"PrevisualizarTexto", "X^2-4,-5,5"}};
+    for (const auto& caso : casos) {
+        impresora.fichero =
+            carpeta.filePath(QString::fromUtf8(caso.acción) + QStringLiteral(".pdf"));
+        impresora.vista = false;
+        impresora.imprimeTrasVer = false;
+        Pulsa(caso.acción);
+        EXPECT_TRUE(impresora.vista) << caso.acción;
+        EXPECT_EQ(DevPáginas().back().back(), caso.última);
+        QFile::remove(impresora.fichero);
+        impresora.imprimeTrasVer = true;
+        Pulsa(caso.acción);
+        EXPECT_EQ(DevPáginas().back().back(), caso.última);
+    }
+}
+
+TEST_F(Impresión, ControlPImprimeLaHojaEnEllaYSiNoLaGráfica) {
+    Define(2, "X^2");
+    txtSalida.setPlainText(QStringLiteral("X^2-4,-5,5"));
+    txtSalida.setFocus();
+    QTest::keyClick(&txtSalida, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(DevPáginas(), (std::vector<std::vector<std::string>>{{"X^2-4,-5,5"}}));
+    auto& visor = Busca<QWidget>("VisorFunciones");
+    visor.setFocus();
+    QTest::keyClick(&visor, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(DevPáginas().back().back(), "f2(X)=X^2");
 }
 
 TEST_F(Impresión, UnaFunciónLarguísimaDejaSitioALaGráfica) {

@@ -26,7 +26,16 @@ public:
         impresora.setOutputFileName(fichero);
         return !fichero.isEmpty();
     }
+    // Prints what is to be seen into the file, and then wants to print it or not.
+    bool Previsualiza(QPrinter& impresora, const Documento& documento, QWidget* padre) override {
+        vista = Elige(impresora, padre) && documento(impresora);
+        orientación = impresora.pageLayout().orientation();
+        return imprimeTrasVer;
+    }
     QString fichero;
+    bool vista = false; // a preview
+    bool imprimeTrasVer = false;
+    QPageLayout::Orientation orientación{};
 };
 
 class VentanaDePrueba : public testing::Test {

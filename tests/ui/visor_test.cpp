@@ -5,6 +5,7 @@
 #include "ui/dibujo/grafica.h"
 
 #include <QClipboard>
+#include <QMimeData>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -23,7 +24,7 @@ protected:
 
     QImage DevImagen() {
         QApplication::processEvents();
-        return dynamic_cast<VisorFunciones&>(visor).DevImagen();
+        return visor.grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
     // How many pixels of a colour there are in a part of the image, as shares of its sides.
     static int Cuenta(const QImage& imagen, QRgb color, double x0 = 0, double x1 = 1, double y0 = 0,
@@ -41,6 +42,23 @@ protected:
             if ((imagen.pixel(x, y) & 0xFFFFFF) == (color & 0xFFFFFF))
                 alturas.push_back(y);
         return alturas;
+    }
+    void Gira(int ángulo) {
+        const QPointF lugar(450, 100);
+        QWheelEvent suceso(lugar, visor.mapToGlobal(lugar), {}, QPoint(0, ángulo), Qt::NoButton,
+                           Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&visor, &suceso);
+    }
+    void Mueve(const QPoint& lugar, Qt::KeyboardModifiers teclas) {
+        QMouseEvent movido(QEvent::MouseMove, QPointF(lugar), visor.mapToGlobal(QPointF(lugar)),
+                           Qt::NoButton, Qt::LeftButton, teclas);
+        QApplication::sendEvent(&visor, &movido);
+    }
+    void Arrastra(const QPoint& desde, const QPoint& hasta, Qt::KeyboardModifiers teclas) {
+        QTest::mousePress(&visor, Qt::LeftButton, teclas, desde);
+        Mueve((desde + hasta) / 2, teclas);
+        Mueve(hasta, teclas);
+        QTest::mouseRelease(&visor, Qt::LeftButton, teclas, hasta);
     }
     void PonX(int décimas) { Busca<QScrollBar>("hsx").setValue(décimas); }
 
@@ -178,22 +196,67 @@ TEST_F(Visor, ArrastrarDesplazaYNoMueveElPuntoX) {
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
 }
 
-TEST_F(Visor, LaRuedaAmplíaAlrededorDelPuntero) {
-    const auto gira = [&](int ángulo) {
-        const QPointF lugar(450, 100);
-        QWheelEvent suceso(lugar, visor.mapToGlobal(lugar), {}, QPoint(0, ángulo), Qt::NoButton,
-                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&visor, &suceso);
-    };
-    gira(60);
+TEST_F(Visor, DosMuescasDeLaRuedaAmplíanElDobleAlrededorDelPuntero) {
+    Gira(60);
     EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
-    gira(60); // half a step more
-    const auto extremos = DevExtremos();
-    EXPECT_NEAR(std::stod(extremos[0]), 7.5, 0.03);
-    EXPECT_NEAR(std::stod(extremos[1]), -2.5, 0.03);
-    EXPECT_NEAR(std::stod(extremos[2]), 7.5, 0.03);
-    gira(-120);
-    EXPECT_NEAR(std::stod(DevExtremos()[0]), 10, 0.001);
+    Gira(60); // half a notch more
+    const auto media = DevExtremos();
+    for (const std::string& extremo : media)
+        EXPECT_LE(extremo.size(), 5U) << extremo; // no finer than a pixel
+    EXPECT_NEAR(std::stod(media[0]) - std::stod(media[1]), 20 / std::sqrt(2), 0.02);
+    Gira(120);
+    const auto entera = DevExtremos();
+    EXPECT_EQ(std::stod(entera[0]) - std::stod(entera[1]), 10);
+    EXPECT_EQ(std::stod(entera[2]) - std::stod(entera[3]), 10);
+    EXPECT_NEAR(std::stod(entera[0]), 7.5, 0.03);
+    EXPECT_NEAR(std::stod(entera[2]), 7.5, 0.03);
+    Gira(-240);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
+    Gira(240);
+    EXPECT_EQ(DevExtremos(), entera); // both at once
+}
+
+TEST_F(Visor, UnRectánguloConMayúsSeEncuadra) {
+    Arrastra(QPoint(150, 100), QPoint(450, 300), Qt::ShiftModifier);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "-5", "5", "-5"}));
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
+    Arrastra(QPoint(150, 100), QPoint(152, 300), Qt::ShiftModifier); // hardly more than a click
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "-5", "5", "-5"}));
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
+    Arrastra(QPoint(450, 300), QPoint(150, 100), Qt::ShiftModifier); // from any corner
+    EXPECT_EQ(DevExtremos()[0], "2.5");
+}
+
+TEST_F(Visor, ElRectánguloSeVeYEscapeLoDeja) {
+    const QImage antes = visor.grab().toImage();
+    QTest::mousePress(&visor, Qt::LeftButton, Qt::ShiftModifier, QPoint(150, 100));
+    Mueve(QPoint(450, 300), Qt::ShiftModifier);
+    EXPECT_NE(visor.grab().toImage().pixel(160, 150), antes.pixel(160, 150));
+    QTest::keyClick(&visor, Qt::Key_Escape);
+    EXPECT_EQ(visor.grab().toImage().pixel(160, 150), antes.pixel(160, 150));
+    QTest::mouseRelease(&visor, Qt::LeftButton, Qt::ShiftModifier, QPoint(450, 300));
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
+}
+
+TEST_F(Visor, LaVistaAnteriorVuelvePorGestos) {
+    const auto alComienzo = DevExtremos();
+    Gira(120);
+    Gira(120);
+    Gira(120); // one gesture
+    const auto trasLaRueda = DevExtremos();
+    Arrastra(QPoint(300, 200), QPoint(360, 240), Qt::NoModifier);
+    const auto trasArrastrar = DevExtremos();
+    Arrastra(QPoint(300, 200), QPoint(360, 240), Qt::NoModifier);
+    Pulsa("ZoomEjeX_0");
+    Pulsa("VistaAnterior");
+    Pulsa("VistaAnterior");
+    EXPECT_EQ(DevExtremos(), trasArrastrar);
+    Pulsa("VistaAnterior");
+    EXPECT_EQ(DevExtremos(), trasLaRueda);
+    QTest::keyClick(&visor, Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(DevExtremos(), alComienzo);
+    Pulsa("VistaAnterior"); // there is none
+    EXPECT_EQ(DevExtremos(), alComienzo);
 }
 
 TEST_F(Visor, LasCoordenadasNuncaQuedanAtrasadas) {
@@ -211,12 +274,98 @@ TEST_F(Visor, LasCoordenadasNuncaQuedanAtrasadas) {
     EXPECT_EQ(coordenadas.text(), QString());
 }
 
-TEST_F(Visor, LaImagenSeCopiaAlPortapapeles) {
+TEST_F(Visor, LaGráficaSeCopiaConSuLeyendaComoPngYComoPdf) {
     Define(3, "X");
-    Pulsa("CopiarImagen");
-    const QImage copia = QApplication::clipboard()->image();
-    EXPECT_EQ(copia.size(), visor.size());
-    EXPECT_GT(Cuenta(copia, Azul), 200);
+    Define(1, "9");
+    Busca<QCheckBox>("chkfx_1").click(); // off: not in the legend either
+    QTest::keyClick(&visor, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    const QMimeData& copia = *QApplication::clipboard()->mimeData();
+    const QImage imagen = QApplication::clipboard()->image();
+    EXPECT_EQ(imagen.width(), visor.width());
+    EXPECT_GT(Cuenta(imagen, Azul), 200);
+    EXPECT_EQ(Cuenta(imagen, Magenta), 0);
+    ASSERT_GT(imagen.height(), visor.height() + 8);
+    EXPECT_LT(imagen.height(), visor.height() + 40); // one line
+    int escrito = 0;
+    for (int y = visor.height() + 4; y < imagen.height(); ++y)
+        for (int x = 0; x < 100; ++x)
+            escrito += qBlue(imagen.pixel(x, y)) > qRed(imagen.pixel(x, y)) + 60 ? 1 : 0;
+    EXPECT_GT(escrito, 20);
+    EXPECT_EQ(QImage::fromData(copia.data(QStringLiteral("image/png"))).size(), imagen.size());
+    EXPECT_TRUE(copia.data(QStringLiteral("application/pdf")).startsWith("%PDF-"));
+    Busca<QCheckBox>("chkfx_3").click();
+    Pulsa("CopiarGráfica"); // no function, no legend
+    EXPECT_EQ(QApplication::clipboard()->image().size(), visor.size());
+}
+
+TEST_F(Visor, LaTablaDeValoresVaEnColumnas) {
+    QApplication::clipboard()->setText(QStringLiteral("antes"));
+    Pulsa("CopiarTabla"); // no function is on
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("antes"));
+    Define(0, "X^2");
+    Define(2, "SQR(X)");
+    Define(3, "7");
+    Busca<QCheckBox>("chkfx_3").click();
+    Pulsa("CopiarTabla");
+    const QStringList filas = QApplication::clipboard()->text().split(u'\n');
+    ASSERT_EQ(filas.size(), 303);
+    EXPECT_EQ(filas[0], QStringLiteral("X\tf0(X)=X^2\tf2(X)=SQR(X)"));
+    EXPECT_EQ(filas[1], QStringLiteral("-10\t100\t"));
+    EXPECT_EQ(filas[301], QStringLiteral("10\t100\t3.16227766016838"));
+    EXPECT_EQ(filas[302], QString());
+}
+
+TEST_F(Visor, UnPuntoXFueraDeLaVistaSeSeñalaEnElBorde) {
+    const QColor señal = ColorMarcador;
+    const auto cuenta = [&](double x0, double x1) {
+        return Cuenta(DevImagen(), señal.rgb(), x0, x1);
+    };
+    PonX(90);
+    Pulsa("ZoomEjeX_0");
+    EXPECT_EQ(cuenta(0.97, 1), 0);
+    Pulsa("ValoresPorDefectoEjes"); // the point stays at 18
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("18"));
+    EXPECT_GT(cuenta(0.97, 1), 30);
+    EXPECT_EQ(cuenta(0, 0.9), 0);
+    PonX(-90);
+    EXPECT_EQ(cuenta(0.97, 1), 0);
+    Pulsa("ZoomEjeX_0");
+    Pulsa("ValoresPorDefectoEjes");
+    EXPECT_GT(cuenta(0, 0.03), 30);
+    EXPECT_EQ(cuenta(0.1, 1), 0);
+}
+
+TEST_F(Visor, LaGráficaVacíaDiceQuéHacerHastaLaPrimeraFunción) {
+    auto& caja = Busca<QLineEdit>("txtfx_0");
+    const QRect medio(100, 140, 400, 60);
+    const auto oscuros = [&] {
+        const QImage imagen = visor.grab(medio).toImage();
+        return Cuenta(imagen.convertToFormat(QImage::Format_RGB32), ColorTexto.rgb());
+    };
+    PonX(90);
+    EXPECT_EQ(caja.placeholderText(), QStringLiteral("por ejemplo SIN(X)"));
+    const int conInvitación = oscuros();
+    EXPECT_GT(conInvitación, 30);
+    Define(1, "9");
+    EXPECT_EQ(caja.placeholderText(), QString());
+    EXPECT_LT(oscuros(), conInvitación / 2); // labels of the axis
+}
+
+TEST_F(Visor, LasTeclasMásYMenosAumentanYReducen) {
+    visor.setFocus();
+    QTest::keyClick(&visor, Qt::Key_Plus);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "-5", "5", "-5"}));
+    QTest::keyClick(&visor, Qt::Key_Minus);
+    QTest::keyClick(&visor, Qt::Key_Minus);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"20", "-20", "20", "-20"}));
+}
+
+TEST_F(Visor, OtraLetraCambiaLosRótulos) {
+    const QImage antes = DevImagen();
+    QFont grande = visor.font();
+    grande.setPointSize(grande.pointSize() * 2);
+    visor.setFont(grande);
+    EXPECT_NE(DevImagen(), antes);
 }
 
 TEST_F(Visor, ElPapelSigueBlancoConElFoco) {

@@ -18,9 +18,18 @@ QAction* Crea(QObject& padre, const QString& título, const QString& nombre,
     return acción;
 }
 
-// The full caption tells the entries of the four menus apart where their menu is not seen.
+// What the entries of a zoom menu do.
+using Efectos = std::array<const char*, 6>;
+constexpr Efectos EfectosEje = {"el doble", "el cuádruple",    "el óctuple",
+                                "la mitad", "la cuarta parte", "la octava parte"};
+constexpr Efectos EfectosGráfica = {"se amplía al doble",          "se amplía al cuádruple",
+                                    "se amplía al óctuple",        "se reduce a la mitad",
+                                    "se reduce a la cuarta parte", "se reduce a la octava parte"};
+
+// The full caption tells the entries of the four menus apart where their menu is not seen, the tip
+// says what happens.
 Zooms CreaZooms(QObject& padre, const QString& menú, const QString& nombre,
-                const QString& explicación, Figura figura) {
+                const QString& explicación, const Efectos& efectos, Figura figura) {
     constexpr int Ampliar = 0;
     constexpr int Reducir = 3;
     const std::array títulos = {QStringLiteral("X2"), QStringLiteral("X4"), QStringLiteral("X8"),
@@ -30,8 +39,9 @@ Zooms CreaZooms(QObject& padre, const QString& menú, const QString& nombre,
         const QString& título = títulos.at(i);
         QAction* acción = Crea(padre, título, nombre + QStringLiteral("_%1").arg(i));
         acción->setIconText(menú + u' ' + título);
-        acción->setToolTip(acción->iconText());
-        acción->setStatusTip(explicación + título);
+        acción->setToolTip(acción->iconText() + QStringLiteral(": ") + explicación + u' ' +
+                           QString::fromUtf8(efectos.at(i)));
+        acción->setStatusTip(acción->toolTip());
         zooms.at(i) = acción;
     }
     for (const int índice : {Ampliar, Reducir}) {
@@ -53,23 +63,64 @@ template <typename Lista> void UneOpciones(QObject& padre, const Lista& acciones
 }
 
 void CreaZoomsGráfica(QObject& padre, Acciones& a) {
-    a.ZoomGráfica = CreaZooms(
-        padre, QStringLiteral("Zoom Gráfica"), QStringLiteral("ZoomGráfica"),
-        QStringLiteral("La gráfica, aumentada o reducida en torno al punto X: "), Figura::Gráfica);
+    a.ZoomGráfica = CreaZooms(padre, QStringLiteral("Zoom Gráfica"), QStringLiteral("ZoomGráfica"),
+                              QStringLiteral("el dibujo, en torno al punto X,"), EfectosGráfica,
+                              Figura::Gráfica);
     a.ZoomGráfica[0]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Plus));
     a.ZoomGráfica[3]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Minus));
     a.ZoomEjeX = CreaZooms(padre, QStringLiteral("Eje X"), QStringLiteral("ZoomEjeX"),
-                           QStringLiteral("Lo que abarca el eje X: "), Figura::EjeX);
+                           QStringLiteral("el eje abarca"), EfectosEje, Figura::EjeX);
     a.ZoomEjeY = CreaZooms(padre, QStringLiteral("Eje Y"), QStringLiteral("ZoomEjeY"),
-                           QStringLiteral("Lo que abarca el eje Y: "), Figura::EjeY);
+                           QStringLiteral("el eje abarca"), EfectosEje, Figura::EjeY);
     a.ZoomEjesXY = CreaZooms(padre, QStringLiteral("Ejes X e Y"), QStringLiteral("ZoomEjesXY"),
-                             QStringLiteral("Lo que abarcan ambos ejes: "), Figura::EjesXY);
+                             QStringLiteral("los ejes abarcan"), EfectosEje, Figura::EjesXY);
     a.ValoresPorDefectoEjes =
         Crea(padre, QStringLiteral("&Valores por defecto"), QStringLiteral("ValoresPorDefectoEjes"),
              QKeySequence(Qt::CTRL | Qt::Key_0));
     a.FijarPuntosExtremos =
         Crea(padre, QStringLiteral("&Fijar puntos extremos manualmente"),
              QStringLiteral("FijarPuntosExtremos"), QKeySequence(Qt::CTRL | Qt::Key_F));
+}
+
+QAction* Crea(QObject& padre, const QString& título, const QString& nombre,
+              const QString& explicación, const QKeySequence& atajo = {}) {
+    QAction* acción = Crea(padre, título, nombre, atajo);
+    acción->setStatusTip(explicación);
+    return acción;
+}
+
+void CreaVistas(QObject& padre, Acciones& a) {
+    a.AjustarEjeY = Crea(padre, QStringLiteral("&Ajustar eje Y"), QStringLiteral("AjustarEjeY"),
+                         QStringLiteral("El eje Y abarca las curvas que se ven"));
+    a.EjesIguales = Crea(padre, QStringLiteral("Ejes &iguales"), QStringLiteral("EjesIguales"),
+                         QStringLiteral("Una unidad mide lo mismo en los dos ejes"));
+    a.VistaAnterior =
+        Crea(padre, QStringLiteral("&Vista anterior"), QStringLiteral("VistaAnterior"),
+             QStringLiteral("Los extremos de antes del último cambio"),
+             QKeySequence(Qt::ALT | Qt::Key_Left));
+    a.CopiarGráfica =
+        Crea(padre, QStringLiteral("Copiar &gráfica"), QStringLiteral("CopiarGráfica"),
+             QStringLiteral("La gráfica con su leyenda, al portapapeles"),
+             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+    a.CopiarTabla =
+        Crea(padre, QStringLiteral("Copiar &tabla de valores"), QStringLiteral("CopiarTabla"),
+             QStringLiteral(
+                 "X y las funciones encendidas en lo que se ve, en columnas, al portapapeles"),
+             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T));
+}
+
+void CreaImpresión(QObject& padre, Acciones& a) {
+    a.ImprimirGráfica =
+        Crea(padre, QStringLiteral("Ventana gráfica"), QStringLiteral("ImprimirGráfica"));
+    a.ImprimirTexto = Crea(padre, QStringLiteral("Ventana texto"), QStringLiteral("ImprimirTexto"));
+    a.ImprimirEnfocada =
+        Crea(padre, QStringLiteral("Ventana con el foco"), QStringLiteral("ImprimirEnfocada"),
+             QStringLiteral("La hoja si se está en ella, si no la gráfica"),
+             QKeySequence(Qt::CTRL | Qt::Key_P));
+    a.PrevisualizarGráfica =
+        Crea(padre, QStringLiteral("Ventana gráfica"), QStringLiteral("PrevisualizarGráfica"));
+    a.PrevisualizarTexto =
+        Crea(padre, QStringLiteral("Ventana texto"), QStringLiteral("PrevisualizarTexto"));
 }
 
 void CreaOpciones(QObject& padre, Acciones& a) {
@@ -140,13 +191,11 @@ void CreaEdición(QObject& padre, Acciones& a) {
 Acciones CreaAcciones(QObject& padre) {
     Acciones a{};
     CreaZoomsGráfica(padre, a);
+    CreaVistas(padre, a);
     CreaOpciones(padre, a);
-    a.ImprimirGráfica =
-        Crea(padre, QStringLiteral("Ventana gráfica"), QStringLiteral("ImprimirGráfica"));
-    a.ImprimirTexto = Crea(padre, QStringLiteral("Ventana texto"), QStringLiteral("ImprimirTexto"));
+    CreaImpresión(padre, a);
     a.Salir = Crea(padre, QStringLiteral("&Salir"), QStringLiteral("Salir"),
                    QKeySequence(Qt::CTRL | Qt::Key_Q));
-    a.CopiarImagen = Crea(padre, QStringLiteral("Copiar imagen"), QStringLiteral("CopiarImagen"));
     a.Contenido = Crea(padre, QStringLiteral("&Contenido"), QStringLiteral("Contenido"),
                        QKeySequence(Qt::Key_F1));
     a.Manual = Crea(padre, QStringLiteral("&Manual"), QStringLiteral("Manual"));

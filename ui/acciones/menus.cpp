@@ -26,8 +26,12 @@ template <typename Lista> void Añade(QMenu& menú, const Lista& acciones) {
 }
 
 void CreaMenúArchivo(QMenu& menú, const Acciones& acciones) {
-    Añade(AñadeMenú(menú, QStringLiteral("Imprimir"), QStringLiteral("Imprimir")),
-          std::array{acciones.ImprimirGráfica, acciones.ImprimirTexto});
+    QMenu& imprimir = AñadeMenú(menú, QStringLiteral("Imprimir"), QStringLiteral("Imprimir"));
+    Añade(imprimir, std::array{acciones.ImprimirGráfica, acciones.ImprimirTexto});
+    imprimir.addSeparator();
+    imprimir.addAction(acciones.ImprimirEnfocada);
+    Añade(AñadeMenú(menú, QStringLiteral("&Vista previa"), QStringLiteral("VistaPrevia")),
+          std::array{acciones.PrevisualizarGráfica, acciones.PrevisualizarTexto});
     menú.addSeparator();
     menú.addAction(acciones.Salir);
 }
@@ -52,7 +56,8 @@ void CreaMenúGráfica(QMenu& menú, const Acciones& acciones) {
           acciones.ZoomEjesXY);
     ejes.addSeparator();
     ejes.addAction(acciones.ValoresPorDefectoEjes);
-    menú.addAction(acciones.FijarPuntosExtremos);
+    Añade(menú, std::array{acciones.FijarPuntosExtremos, acciones.AjustarEjeY, acciones.EjesIguales,
+                           acciones.VistaAnterior});
     menú.addSeparator();
     Añade(AñadeMenú(menú, QStringLiteral("&Método de Dibujo"), QStringLiteral("MétodoDibujo")),
           std::array{acciones.OrdenMenúPuntos, acciones.OrdenMenúLíneas});
@@ -63,7 +68,7 @@ void CreaMenúGráfica(QMenu& menú, const Acciones& acciones) {
                     QStringLiteral("RedondeoNúmeros")),
           acciones.RedondeoNúmeros);
     menú.addSeparator();
-    menú.addAction(acciones.QuitarMarcas);
+    Añade(menú, std::array{acciones.QuitarMarcas, acciones.CopiarGráfica, acciones.CopiarTabla});
 }
 
 QMenu& DevFamilia(QMenu& menú, std::string_view familia) {

@@ -8,7 +8,7 @@ namespace quiralto {
 inline constexpr QColor Papel(255, 255, 255);
 inline constexpr QColor ColorRejilla(222, 222, 228);
 inline constexpr QColor ColorRejillaMenor(242, 242, 245);
-inline constexpr QColor ColorEje(120, 120, 128);
+inline constexpr QColor ColorEje(112, 112, 120);
 inline constexpr QColor ColorTexto(70, 70, 76);
 inline constexpr QColor ColorMarcador(0, 130, 90);
 

@@ -37,4 +37,22 @@ QColor DevTextoSuave(const QPalette& paleta) {
     return DevContraste(suave, papel) >= ContrasteDeTexto ? suave : texto;
 }
 
+QColor DevLegible(const QColor& papel, const QColor& hacia) {
+    constexpr int Pasos = 64;
+    for (int i = 1; i < Pasos; ++i)
+        if (const QColor color = Mezcla(hacia, papel, static_cast<double>(i) / Pasos);
+            DevContraste(color, papel) >= ContrasteDeTexto)
+            return color;
+    return hacia;
+}
+
+void DibujaFoco(QPainter& pintor, const QRectF& marco, const QPalette& paleta) {
+    const QColor fondo = paleta.color(QPalette::Window);
+    const QColor color = paleta.color(QPalette::Highlight);
+    const bool oscurece = DevLuminancia(color) < DevLuminancia(fondo);
+    pintor.setBrush(Qt::NoBrush);
+    pintor.setPen(QPen(DevLegible(fondo, oscurece ? color.darker() : color.lighter()), 2));
+    pintor.drawRoundedRect(marco.adjusted(1, 1, -1, -1), 2, 2);
+}
+
 } // namespace quiralto

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPainter>
 #include <QPalette>
 
 namespace quiralto {
@@ -15,5 +16,12 @@ double DevContraste(const QColor& uno, const QColor& otro);
 
 // The quieter text of a box: between its text and its paper.
 QColor DevTextoSuave(const QPalette& paleta);
+
+// The colour nearest to the paper, on the way from it to `hacia`, that can be read on it; `hacia`
+// itself where none can.
+QColor DevLegible(const QColor& papel, const QColor& hacia);
+
+// The mark of the focus, along the border of a control, on the ground of the window.
+void DibujaFoco(QPainter& pintor, const QRectF& marco, const QPalette& paleta);
 
 } // namespace quiralto

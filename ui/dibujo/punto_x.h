@@ -1,4 +1,5 @@
-// The marker line of the point X, with a dot on each function.
+// The marker line of the point X, with a dot on each function; where it lies outside of the window,
+// an arrow at that edge.
 #pragma once
 
 #include "ui/dibujo/lienzo.h"

@@ -34,6 +34,7 @@ ControlGráfica::ControlGráfica(Contexto& contexto, Ejecutor& ejecutor, const P
     connect(&partes_.panel, &PanelFunciones::confirmada, this, &C::AlConfirmar);
     connect(&partes_.panel, &PanelFunciones::abandonada, this, &C::AlAbandonar);
     connect(&partes_.panel, &PanelFunciones::conmutada, this, &C::AlConmutar);
+    connect(&partes_.panel, &PanelFunciones::puntoEscrito, this, &C::AlPedirPuntoX);
     connect(&partes_.marco, &FrmPuntosExtremos::aceptados, this, &C::FijaExtremos);
     connect(&ejecutor_, &Ejecutor::terminada, this, &C::AlAcabarOrden);
     pausa_.setSingleShot(true);
@@ -48,20 +49,10 @@ void ControlGráfica::ConectaVisor() {
         PonPuntoX(Val(TextoCoordenada(x, partes_.visor.DevSeparación().x())));
     });
     connect(visor, &VisorFunciones::mueveX, this, &C::MuevePuntoX);
-    connect(visor, &VisorFunciones::zoom, this, [this](const QPointF& centro, double factor) {
-        ConTrampa(
-            [this, centro, factor] {
-                return vista_.ZoomEn({centro.x(), centro.y()}, factor);
-            },
-            {&C::DibujarActivadas});
-    });
-    connect(visor, &VisorFunciones::desplaza, this, [this](const QPointF& distancia) {
-        ConTrampa([this, distancia] { return vista_.Desplaza(distancia.x(), distancia.y()); },
-                  {&C::DibujarActivadas});
-    });
     connect(visor, &VisorFunciones::zoomGrafica, this, &C::ZoomGráfica_Click);
     connect(visor, &VisorFunciones::apunta, this, [this](const QPointF& lugar) { Señala(lugar); });
     connect(visor, &VisorFunciones::noApunta, this, [this] { Señala(std::nullopt); });
+    ConectaGestos();
 }
 
 void ControlGráfica::ConTrampa(Cambio cambia, Pasos pasos, Luego luego) {
@@ -75,10 +66,13 @@ void ControlGráfica::ConTrampa(Cambio cambia, Pasos pasos, Luego luego) {
 
 bool ControlGráfica::Atiende(const Cambio& cambia, const Pasos& pasos) {
     vista_.SalvaValores();
+    const Vista::Estado antes = vista_.DevEstado();
+    gesto_ = Gesto::Suelto;
     try {
         if (!cambia())
             return false;
         Muestra(pasos);
+        historia_.Anota(antes, vista_.DevEstado(), gesto_);
         return true;
     } catch (const ErrorEjecución& error) {
         MensajeErrorOverflow(error.Número());

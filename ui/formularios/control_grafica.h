@@ -5,6 +5,7 @@
 #include "ui/formularios/frm_puntos_extremos.h"
 #include "ui/formularios/panel_funciones.h"
 #include "ui/formularios/visor_funciones.h"
+#include "ui/grafica/historia.h"
 #include "ui/hoja/ejecutor.h"
 
 #include <QLabel>
@@ -50,6 +51,14 @@ public:
     void vsEjeY_Change(int valor);
     void hsx_Change(int valor);
     void FijaExtremos(const Ventana& ventana);
+    void AjustarEjeY_Click();
+    void EjesIguales_Click();
+    void VistaAnterior_Click();
+    void AlPedirPuntoX(const QString& texto);
+
+    // The functions over the window as text, a column of each; given to `luego` once nothing runs.
+    // Empty where none is switched on.
+    void DevTablaValores(const std::function<void(const QString&)>& luego);
 
     // The functions' boxes.
     void AlEscribir(int índice, const QString& texto);
@@ -103,6 +112,8 @@ protected:
 
 private:
     void ConectaVisor();
+    void ConectaGestos();
+    Lugar DevSeparación() const;
     bool Atiende(const Cambio& cambia, const Pasos& pasos);
     void Muestra(const Pasos& pasos);
     void PonMétodo(MétodoDibujo método);
@@ -128,6 +139,8 @@ private:
     FuncionesGráficas funciones_;
     Hallados hallados_;
     Opciones opciones_;
+    Historia historia_;
+    Gesto gesto_ = Gesto::Suelto; // of the change that is being made
     Compositor compositor_;
     Escena escena_;
     std::optional<QPointF> puntero_; // over the picture

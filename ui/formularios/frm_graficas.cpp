@@ -5,6 +5,7 @@
 #include "ui/acciones/menus.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/copia_grafica.h"
 #include "ui/formularios/edicion.h"
 #include "ui/formularios/enlace_hoja.h"
 #include "ui/formularios/frm_acerca_de.h"
@@ -28,6 +29,8 @@
 
 namespace quiralto {
 namespace {
+
+constexpr int DuraciónAviso = 4000; // in the status bar, milliseconds
 
 DatosBarra DevBarraEjeX() {
     return {
@@ -102,8 +105,9 @@ void FrmGráficas::CreaCuerpo() {
 QWidget* FrmGráficas::CreaZonaGráfica() {
     visor_->setObjectName(QStringLiteral("VisorFunciones"));
     visor_->setAccessibleName(QStringLiteral("Gráfica"));
-    visor_->addAction(acciones_.CopiarImagen);
-    visor_->addAction(acciones_.QuitarMarcas);
+    for (QAction* acción : {acciones_.CopiarGráfica, acciones_.CopiarTabla, acciones_.AjustarEjeY,
+                            acciones_.EjesIguales, acciones_.VistaAnterior, acciones_.QuitarMarcas})
+        visor_->addAction(acción);
     visor_->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* zona = new QWidget(this);
     auto* rejilla = new QGridLayout(zona);
@@ -203,6 +207,12 @@ void FrmGráficas::ConectaAccionesGráfica() {
             &ControlGráfica::ValoresPorDefectoEjes_Click);
     connect(acciones_.FijarPuntosExtremos, &QAction::triggered, control_.get(),
             &ControlGráfica::FijarPuntosExtremos_Click);
+    connect(acciones_.AjustarEjeY, &QAction::triggered, control_.get(),
+            &ControlGráfica::AjustarEjeY_Click);
+    connect(acciones_.EjesIguales, &QAction::triggered, control_.get(),
+            &ControlGráfica::EjesIguales_Click);
+    connect(acciones_.VistaAnterior, &QAction::triggered, control_.get(),
+            &ControlGráfica::VistaAnterior_Click);
     connect(acciones_.OrdenMenúPuntos, &QAction::triggered, control_.get(),
             &ControlGráfica::OrdenMenúPuntos_Click);
     connect(acciones_.OrdenMenúLíneas, &QAction::triggered, control_.get(),
@@ -215,7 +225,11 @@ void FrmGráficas::ConectaOtrasAcciones() {
     };
     conecta(acciones_.ImprimirGráfica, &FrmGráficas::ImprimirGráfica_Click);
     conecta(acciones_.ImprimirTexto, &FrmGráficas::ImprimirTexto_Click);
-    conecta(acciones_.CopiarImagen, &FrmGráficas::CopiarImagen_Click);
+    conecta(acciones_.ImprimirEnfocada, &FrmGráficas::ImprimirEnfocada_Click);
+    conecta(acciones_.PrevisualizarGráfica, &FrmGráficas::PrevisualizarGráfica_Click);
+    conecta(acciones_.PrevisualizarTexto, &FrmGráficas::PrevisualizarTexto_Click);
+    conecta(acciones_.CopiarGráfica, &FrmGráficas::CopiarGráfica_Click);
+    conecta(acciones_.CopiarTabla, &FrmGráficas::CopiarTabla_Click);
     conecta(acciones_.Contenido, &FrmGráficas::Contenido_Click);
     conecta(acciones_.Manual, &FrmGráficas::Manual_Click);
     conecta(acciones_.AcercaDe, &FrmGráficas::AcercaDe_Click);
@@ -301,27 +315,72 @@ void FrmGráficas::closeEvent(QCloseEvent* suceso) {
     QMainWindow::closeEvent(suceso);
 }
 
-void FrmGráficas::Imprime(const Documento& documento) {
-    QPrinter impresora(QPrinter::HighResolution);
+void FrmGráficas::Imprime(const Documento& documento, QPrinter& impresora, Manera manera) {
     impresora.setDocName(QStringLiteral("Quiralto"));
+    if (manera == Manera::Previsualizar && !impresora_.Previsualiza(impresora, documento, this))
+        return;
     if (impresora_.Elige(impresora, this) && !quiralto::Imprime(impresora, documento))
         contexto_.Avisa("No se puede imprimir");
 }
 
-void FrmGráficas::ImprimirTexto_Click() {
-    Imprime([this](QPagedPaintDevice& dispositivo) {
+void FrmGráficas::ImprimeTexto(Manera manera) {
+    QPrinter impresora(QPrinter::HighResolution);
+    const auto documento = [this](QPagedPaintDevice& dispositivo) {
         return ImprimetxtSalida(dispositivo, txtSalida_->DevTexto());
-    });
+    };
+    Imprime(documento, impresora, manera);
+}
+
+void FrmGráficas::ImprimeGráfica(Manera manera) {
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setPageOrientation(
+        DevOrientación(impresora.pageLayout(), control_->DevEscena(), visor_->size()));
+    const auto documento = [this](QPagedPaintDevice& dispositivo) {
+        return ImprimeGráficas(dispositivo, control_->DevEscena(), visor_->size());
+    };
+    Imprime(documento, impresora, manera);
+}
+
+void FrmGráficas::ImprimirTexto_Click() {
+    ImprimeTexto(Manera::Imprimir);
 }
 
 void FrmGráficas::ImprimirGráfica_Click() {
-    Imprime([this](QPagedPaintDevice& dispositivo) {
-        return ImprimeGráficas(dispositivo, control_->DevEscena(), visor_->size());
-    });
+    ImprimeGráfica(Manera::Imprimir);
 }
 
-void FrmGráficas::CopiarImagen_Click() {
-    QGuiApplication::clipboard()->setImage(visor_->DevImagen());
+void FrmGráficas::PrevisualizarTexto_Click() {
+    ImprimeTexto(Manera::Previsualizar);
+}
+
+void FrmGráficas::PrevisualizarGráfica_Click() {
+    ImprimeGráfica(Manera::Previsualizar);
+}
+
+void FrmGráficas::ImprimirEnfocada_Click() {
+    if (txtSalida_->hasFocus())
+        ImprimeTexto(Manera::Imprimir);
+    else
+        ImprimeGráfica(Manera::Imprimir);
+}
+
+void FrmGráficas::CopiarGráfica_Click() {
+    QGuiApplication::clipboard()->setMimeData(
+        DevCopia(control_->DevEscena(), visor_->size(), visor_->devicePixelRatioF(), visor_->font())
+            .release());
+    statusBar()->showMessage(QStringLiteral("Gráfica copiada"), DuraciónAviso);
+}
+
+void FrmGráficas::CopiarTabla_Click() {
+    control_->DevTablaValores([this](const QString& tabla) {
+        if (!tabla.isEmpty())
+            QGuiApplication::clipboard()->setText(tabla);
+        statusBar()->showMessage(
+            tabla.isEmpty()
+                ? QStringLiteral("No hay ninguna función encendida")
+                : QStringLiteral("Tabla copiada: %1 valores de X").arg(tabla.count(u'\n') - 1),
+            DuraciónAviso);
+    });
 }
 
 } // namespace quiralto

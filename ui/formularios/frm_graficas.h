@@ -49,11 +49,18 @@ private:
 
     void ImprimirGráfica_Click();
     void ImprimirTexto_Click();
-    void CopiarImagen_Click();
+    void ImprimirEnfocada_Click();
+    void PrevisualizarGráfica_Click();
+    void PrevisualizarTexto_Click();
+    void CopiarGráfica_Click();
+    void CopiarTabla_Click();
     void Contenido_Click() { Muestra(ayuda_); }
     void Manual_Click() { Muestra(manual_); }
     void AcercaDe_Click() { Muestra(acercaDe_); }
-    void Imprime(const Documento& documento);
+    enum class Manera { Imprimir, Previsualizar };
+    void ImprimeTexto(Manera manera);
+    void ImprimeGráfica(Manera manera);
+    void Imprime(const Documento& documento, QPrinter& impresora, Manera manera);
     template <typename Formulario> void Muestra(QPointer<Formulario>& formulario);
     void LeeHoja();
     void CopiarTodo_Click();

@@ -8,6 +8,9 @@
 
 namespace quiralto {
 
+// Draws a document on the device; false where the device refuses it.
+using Documento = std::function<bool(QPagedPaintDevice&)>;
+
 class Impresora {
 public:
     virtual ~Impresora() = default;
@@ -15,14 +18,14 @@ public:
     // Lets the user choose where and how to print; false where the user does not want to.
     virtual bool Elige(QPrinter& impresora, QWidget* padre) = 0;
 
+    // Shows what would be printed; true where the user then wants to print it.
+    virtual bool Previsualiza(QPrinter& impresora, const Documento& documento, QWidget* padre) = 0;
+
 protected:
     Impresora() = default;
     Impresora(const Impresora&) = default;
     Impresora& operator=(const Impresora&) = default;
 };
-
-// Draws a document on the device; false where the device refuses it.
-using Documento = std::function<bool(QPagedPaintDevice&)>;
 
 // The part of the device's page that can be printed on, in its pixels; a painter's origin is the
 // corner of it.

@@ -1,8 +1,6 @@
 #include "ui/formularios/impresion_grafica.h"
 
-#include "ui/dibujo/grafica.h"
-#include "ui/dibujo/leyenda.h"
-#include "ui/dibujo/punto_x.h"
+#include "ui/dibujo/figura.h"
 #include "ui/formularios/impresion.h"
 
 #include <algorithm>
@@ -11,6 +9,12 @@ namespace quiralto {
 namespace {
 
 constexpr qreal PuntosPorPulgada = 72;
+constexpr int TamañoLetra = 9;
+
+// As large as the proportions allow.
+QSizeF DevTamaño(const QSizeF& página, qreal debajo, const QSizeF& proporciones) {
+    return proporciones.scaled(página.width(), página.height() - debajo, Qt::KeepAspectRatio);
+}
 
 } // namespace
 
@@ -20,27 +24,30 @@ bool ImprimeGráficas(QPagedPaintDevice& impresora, const Escena& escena,
     if (!pintor.begin(&impresora))
         return false;
     QFont fuente(QStringLiteral("Arial"));
-    fuente.setPointSize(9);
+    fuente.setPointSize(TamañoLetra);
     pintor.setFont(fuente);
     const qreal punto = impresora.logicalDpiX() / PuntosPorPulgada;
     const QRectF página = DevPágina(impresora);
-    const qreal separación = 8 * punto;
     // However long the functions are, half the page is the graph's.
-    const qreal altoTextos =
-        std::min(DevAltoLeyenda(pintor, página, escena.leyenda), página.height() / 2);
-    const QSizeF tamaño = proporciones.scaled(
-        página.width(), página.height() - altoTextos - separación, Qt::KeepAspectRatio);
-    const Lienzo lienzo{QRectF(página.topLeft(), tamaño), punto};
-    DibujaGráfica(pintor, lienzo, SinAtenuadas(escena.cuadro));
-    DibujaPuntoX(pintor, lienzo, escena.cuadro.ventana, escena.marcador);
-    pintor.setBrush(Qt::NoBrush);
-    pintor.setPen(QPen(Qt::gray, punto / 2));
-    pintor.drawRect(lienzo.área);
-    const QRectF debajo(página.left(), lienzo.área.bottom() + separación, página.width(),
-                        altoTextos);
-    pintor.setClipRect(debajo);
-    DibujaLeyenda(pintor, debajo, escena.leyenda);
+    const qreal debajo =
+        std::min(DevAltoBajoGráfica(pintor, punto, página.width(), escena), página.height() / 2);
+    const QSizeF tamaño = DevTamaño(página.size(), debajo, proporciones);
+    DibujaFigura(pintor, {QRectF(página.topLeft(), tamaño), punto}, QSizeF(página.width(), debajo),
+                 escena);
     return pintor.end();
+}
+
+QPageLayout::Orientation DevOrientación(const QPageLayout& página, const Escena& escena,
+                                        const QSizeF& proporciones) {
+    // a line of the legend for each function, which is near enough
+    const qreal debajo = TamañoLetra * (1 + 1.2 * static_cast<qreal>(escena.leyenda.size()));
+    const auto ancho = [&](QPageLayout::Orientation orientación) {
+        QPageLayout otra = página;
+        otra.setOrientation(orientación);
+        return DevTamaño(otra.paintRectPoints().size(), debajo, proporciones).width();
+    };
+    return ancho(QPageLayout::Landscape) > ancho(QPageLayout::Portrait) ? QPageLayout::Landscape
+                                                                        : QPageLayout::Portrait;
 }
 
 } // namespace quiralto

@@ -14,4 +14,8 @@ namespace quiralto {
 bool ImprimeGráficas(QPagedPaintDevice& impresora, const Escena& escena,
                      const QSizeF& proporciones);
 
+// The orientation of a page in which that graph can be larger.
+QPageLayout::Orientation DevOrientación(const QPageLayout& página, const Escena& escena,
+                                        const QSizeF& proporciones);
+
 } // namespace quiralto

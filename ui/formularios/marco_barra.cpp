@@ -1,6 +1,9 @@
 #include "ui/formularios/marco_barra.h"
 
+#include "ui/dibujo/contraste.h"
+
 #include <QBoxLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -16,6 +19,7 @@ MarcoBarra::MarcoBarra(const DatosBarra& datos, QWidget* padre)
     caja->setContentsMargins(6, 4, 6, 4);
     caja->setSpacing(6);
 
+    barra_->installEventFilter(this);
     barra_->setObjectName(datos.nombre);
     barra_->setAccessibleName(datos.título);
     barra_->setAccessibleDescription(datos.explicación);
@@ -39,6 +43,21 @@ MarcoBarra::MarcoBarra(const DatosBarra& datos, QWidget* padre)
         if (vuelve)
             PonBarra(*barra_, 0);
     });
+}
+
+bool MarcoBarra::eventFilter(QObject* objeto, QEvent* suceso) {
+    if (suceso->type() == QEvent::FocusIn || suceso->type() == QEvent::FocusOut)
+        update();
+    return QFrame::eventFilter(objeto, suceso);
+}
+
+void MarcoBarra::paintEvent(QPaintEvent* suceso) {
+    QFrame::paintEvent(suceso);
+    if (!barra_->hasFocus())
+        return;
+    QPainter pintor(this);
+    pintor.setRenderHint(QPainter::Antialiasing);
+    DibujaFoco(pintor, QRectF(rect()), palette());
 }
 
 void PonBarra(QScrollBar& barra, int valor) {

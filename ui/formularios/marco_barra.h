@@ -1,4 +1,4 @@
-// A scroll bar in a frame with its title.
+// A scroll bar in a frame with its title; the frame is marked while the bar has the focus.
 #pragma once
 
 #include <QFrame>
@@ -28,6 +28,10 @@ Q_SIGNALS:
     // A value that the user gives the bar: at once or, of a pair of step buttons, once it is let
     // go; those then go back to 0.
     void cambiada(int valor);
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* suceso) override;
+    void paintEvent(QPaintEvent* suceso) override;
 
 private:
     QScrollBar* barra_;

@@ -1,9 +1,12 @@
 #include "ui/formularios/panel_funciones.h"
 
 #include "ui/dibujo/colores.h"
+#include "ui/dibujo/contraste.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
+#include "ui/formularios/casilla_funcion.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -15,8 +18,23 @@ namespace {
 
 constexpr int FilasPorFunción = 2; // of the grid: box and value
 
+// No box to type into, so without a frame but for the mark of the focus.
+class CajaValor : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void paintEvent(QPaintEvent* suceso) override {
+        QLineEdit::paintEvent(suceso);
+        if (!hasFocus())
+            return;
+        QPainter pintor(this);
+        DibujaFoco(pintor, QRectF(rect()), QApplication::palette(this));
+    }
+};
+
 QLineEdit* CreaValor(QWidget* padre, const QString& nombre, const QString& accesible) {
-    auto* valor = new QLineEdit(padre);
+    auto* valor = new CajaValor(padre);
     valor->setObjectName(nombre);
     valor->setAccessibleName(accesible);
     valor->setReadOnly(true);
@@ -69,7 +87,15 @@ PanelFunciones::PanelFunciones(QWidget* padre) : QWidget(padre) {
 }
 
 void PanelFunciones::CreaPuntoX() {
-    txtPuntoX_ = CreaValor(this, QStringLiteral("txtPuntoX"), QStringLiteral("Punto X"));
+    txtPuntoX_ = new CajaFormula(this);
+    txtPuntoX_->setObjectName(QStringLiteral("txtPuntoX"));
+    txtPuntoX_->setAccessibleName(QStringLiteral("Punto X"));
+    txtPuntoX_->setToolTip(QStringLiteral("Un número, o una expresión sin X"));
+    connect(txtPuntoX_, &QLineEdit::returnPressed, this, &PanelFunciones::DiElPunto);
+    connect(txtPuntoX_, &CajaFormula::abandonada, this, [this] {
+        puntoDejado_ = true;
+        trasSalir_.start(0);
+    });
     auto* etiqueta = new QLabel(QStringLiteral("&Punto X ="), this);
     etiqueta->setBuddy(txtPuntoX_);
     auto& rejilla = dynamic_cast<QGridLayout&>(*layout());
@@ -84,7 +110,7 @@ void PanelFunciones::CreaFila(int índice) {
     const QString número = QString::number(índice);
     const QString función = QStringLiteral("f%1(X)").arg(número);
 
-    fila.chkfx = new QCheckBox(this);
+    fila.chkfx = new CasillaFunción(this);
     fila.chkfx->setObjectName(QStringLiteral("chkfx_") + número);
     fila.chkfx->setAccessibleName(QStringLiteral("Dibujar ") + función);
     fila.chkfx->setToolTip(QStringLiteral("Dibujar ") + función);
@@ -162,15 +188,41 @@ void PanelFunciones::DiLasDejadas() {
         if (!cerrado_ && !fila.txtfx->hasFocus())
             Q_EMIT abandonada(i);
     }
+    if (!std::exchange(puntoDejado_, false) || cerrado_ || txtPuntoX_->hasFocus())
+        return;
+    if (txtPuntoX_->text() == puntoRechazado_)
+        RestauraPuntoX(); // it has been told
+    else
+        DiElPunto();
 }
 
+void PanelFunciones::DiElPunto() {
+    if (txtPuntoX_->text() != puntoX_)
+        Q_EMIT puntoEscrito(txtPuntoX_->text());
+}
+
+// What is being typed there stays until the point itself changes.
 void PanelFunciones::ActualizaX(const Escena& escena) {
-    PonTexto(*txtPuntoX_, escena.textoPuntoX);
+    if (const QString nuevo = DevQString(escena.textoPuntoX); nuevo != puntoX_) {
+        puntoX_ = nuevo;
+        RestauraPuntoX();
+    }
+}
+
+void PanelFunciones::RestauraPuntoX() {
+    puntoRechazado_ = puntoX_;
+    if (txtPuntoX_->text() == puntoX_)
+        return;
+    txtPuntoX_->setText(puntoX_);
+    txtPuntoX_->setCursorPosition(0);
 }
 
 void PanelFunciones::ActualizaFunciones(const Escena& escena) {
     for (int i = 0; i < CantidadFunciones; ++i)
         PonTexto(*DevFila(i).txtFxValor, escena.textosValor.at(static_cast<std::size_t>(i)));
+    const QString invitación = escena.vacía ? QStringLiteral("por ejemplo SIN(X)") : QString();
+    if (DevFila(0).txtfx->placeholderText() != invitación)
+        DevFila(0).txtfx->setPlaceholderText(invitación);
 }
 
 void PanelFunciones::Copia(int índice, const FunciónGráfica& función) {
@@ -196,6 +248,12 @@ void PanelFunciones::VuelveA(int índice) {
     CajaFormula& caja = *DevFila(índice).txtfx;
     caja.setFocus(Qt::OtherFocusReason);
     caja.SeleccionaTexto();
+}
+
+void PanelFunciones::VuelveAlPuntoX() {
+    puntoRechazado_ = txtPuntoX_->text();
+    txtPuntoX_->setFocus(Qt::OtherFocusReason);
+    txtPuntoX_->SeleccionaTexto();
 }
 
 } // namespace quiralto

@@ -29,6 +29,10 @@ public:
 
     // Back to a box whose text has been refused.
     void VuelveA(int índice);
+    void VuelveAlPuntoX();
+
+    // The text of the point X as it was shown, whatever has been typed over it.
+    void RestauraPuntoX();
 
     // From here on no box is left any more: the program ends.
     void Cierra() { cerrado_ = true; }
@@ -38,6 +42,7 @@ Q_SIGNALS:
     void confirmada(int indice); // with Enter
     void abandonada(int indice); // the focus has gone to another control
     void conmutada(int indice, bool encendida);
+    void puntoEscrito(const QString& texto); // with Enter, or left
     // Why the text of the box with the focus is no formula; empty where nothing is to be said.
     void motivoCambiado(const QString& motivo);
     // A function's menu is about to be shown: whoever has something to offer adds it.
@@ -58,10 +63,14 @@ private:
     void ConectaFila(int índice);
     Fila& DevFila(int índice) { return filas_.at(static_cast<std::size_t>(índice)); }
     void DiLasDejadas();
+    void DiElPunto();
 
     PorFunción<Fila> filas_{};
     QTimer trasSalir_; // runs out once a box has lost the focus
-    QLineEdit* txtPuntoX_ = nullptr;
+    CajaFormula* txtPuntoX_ = nullptr;
+    QString puntoX_;           // as it was last shown
+    QString puntoRechazado_;   // what has been typed over it and refused
+    bool puntoDejado_ = false; // its box has lost the focus, which has not been told yet
     bool cerrado_ = false;
 };
 

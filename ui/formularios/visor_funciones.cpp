@@ -1,5 +1,6 @@
 #include "ui/formularios/visor_funciones.h"
 
+#include "ui/dibujo/colores.h"
 #include "ui/dibujo/grafica.h"
 #include "ui/dibujo/hallados.h"
 #include "ui/dibujo/punto_x.h"
@@ -12,6 +13,7 @@
 #include <QToolTip>
 
 #include <cmath>
+#include <utility>
 
 namespace quiralto {
 namespace {
@@ -35,6 +37,8 @@ VisorFunciones::VisorFunciones(QWidget* padre) : QWidget(padre) {
 }
 
 void VisorFunciones::Muestra(const Escena& escena) {
+    if (std::exchange(vacía_, escena.vacía) != escena.vacía)
+        update();
     if (escena.cuadro != cuadro_) {
         cuadro_ = escena.cuadro;
         capa_ = {};
@@ -73,6 +77,9 @@ void VisorFunciones::paintEvent(QPaintEvent*) {
     pintor.scale(1 / devicePixelRatioF(), 1 / devicePixelRatioF());
     DibujaPuntoX(pintor, lienzo, cuadro_.ventana, marcador_);
     pintor.restore();
+    if (vacía_)
+        DibujaInvitación(pintor);
+    DibujaEncuadre(pintor);
     if (hasFocus()) {
         // not the style's, which may tint the paper
         pintor.setPen(palette().color(QPalette::Highlight));
@@ -80,13 +87,25 @@ void VisorFunciones::paintEvent(QPaintEvent*) {
     }
 }
 
-QImage VisorFunciones::DevImagen() const {
-    QPixmap capa = DibujaCapa(SinAtenuadas(cuadro_));
-    capa.setDevicePixelRatio(1);
-    QPainter pintor(&capa);
-    DibujaPuntoX(pintor, DevLienzo(), cuadro_.ventana, marcador_);
-    pintor.end();
-    return capa.toImage();
+// What to do first, in the middle of the empty picture, over the axis.
+void VisorFunciones::DibujaInvitación(QPainter& pintor) const {
+    const QString texto = QStringLiteral("Escriba una función en f0(X), por ejemplo SIN(X)");
+    constexpr int Modo = Qt::AlignCenter | Qt::TextWordWrap;
+    constexpr int Margen = 12;
+    const QRect lugar = rect().adjusted(4 * Margen, 0, -4 * Margen, -height() / 8);
+    const QRect marco = pintor.boundingRect(lugar, Modo, texto);
+    pintor.fillRect(marco.adjusted(-Margen, -Margen / 2, Margen, Margen / 2), Papel);
+    pintor.setPen(ColorTexto);
+    pintor.drawText(lugar, Modo, texto);
+}
+
+void VisorFunciones::DibujaEncuadre(QPainter& pintor) const {
+    if (!encuadre_)
+        return;
+    pintor.setPen(QPen(ColorTexto, 1, Qt::DashLine));
+    pintor.setBrush(QColor(ColorTexto.red(), ColorTexto.green(), ColorTexto.blue(), 24));
+    pintor.drawRect(encuadre_->normalized());
+    pintor.setBrush(Qt::NoBrush);
 }
 
 QPointF VisorFunciones::DevLógico(const QPointF& lugar) const {
@@ -122,6 +141,7 @@ bool VisorFunciones::event(QEvent* suceso) {
     switch (suceso->type()) {
     case QEvent::Leave:
         Q_EMIT noApunta();
+        Q_EMIT gestoAcabado();
         break;
     case QEvent::ToolTip: {
         const auto& ayuda = dynamic_cast<const QHelpEvent&>(*suceso);
@@ -153,6 +173,10 @@ void VisorFunciones::keyPressEvent(QKeyEvent* suceso) {
     case Qt::Key_Minus:
         Q_EMIT zoomGrafica(3);
         break;
+    case Qt::Key_Escape:
+        encuadre_.reset();
+        update();
+        break;
     default:
         QWidget::keyPressEvent(suceso);
     }
@@ -163,6 +187,8 @@ void VisorFunciones::mousePressEvent(QMouseEvent* suceso) {
         return;
     pulsado_ = suceso->position();
     arrastrado_ = false;
+    if (suceso->modifiers().testFlag(Qt::ShiftModifier))
+        encuadre_ = QRectF(*pulsado_, *pulsado_);
 }
 
 void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
@@ -170,7 +196,10 @@ void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
     if (pulsado_ && suceso->buttons().testFlag(Qt::LeftButton)) {
         const QPointF desvío = lugar - *pulsado_;
         arrastrado_ = arrastrado_ || desvío.manhattanLength() >= QApplication::startDragDistance();
-        if (arrastrado_) {
+        if (encuadre_) {
+            encuadre_->setBottomRight(lugar);
+            update();
+        } else if (arrastrado_) {
             setCursor(Qt::ClosedHandCursor);
             pulsado_ = lugar;
             const QPointF separación = DevSeparación();
@@ -185,8 +214,20 @@ void VisorFunciones::mouseReleaseEvent(QMouseEvent* suceso) {
         return;
     pulsado_.reset();
     setCursor(Qt::CrossCursor);
-    if (!arrastrado_)
+    if (encuadre_)
+        AcabaEncuadre();
+    else if (!arrastrado_)
         Q_EMIT fijaX(DevLógico(suceso->position()).x());
+    Q_EMIT gestoAcabado();
+}
+
+// Too small a rectangle was no more than a click that went astray.
+void VisorFunciones::AcabaEncuadre() {
+    constexpr qreal Menor = 5;
+    const QRectF marco = std::exchange(encuadre_, std::nullopt)->normalized();
+    update();
+    if (marco.width() >= Menor && marco.height() >= Menor)
+        Q_EMIT encuadra(DevLógico(marco.topLeft()), DevLógico(marco.bottomRight()));
 }
 
 void VisorFunciones::wheelEvent(QWheelEvent* suceso) {
@@ -194,9 +235,9 @@ void VisorFunciones::wheelEvent(QWheelEvent* suceso) {
     rueda_ += suceso->angleDelta().y();
     const QPointF lógico = DevLógico(suceso->position());
     for (; rueda_ >= Paso; rueda_ -= Paso)
-        Q_EMIT zoom(lógico, 2);
+        Q_EMIT rueda(lógico, 1);
     for (; rueda_ <= -Paso; rueda_ += Paso)
-        Q_EMIT zoom(lógico, 0.5);
+        Q_EMIT rueda(lógico, -1);
     Q_EMIT apunta(suceso->position());
     suceso->accept();
 }

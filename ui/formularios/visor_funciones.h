@@ -21,9 +21,6 @@ public:
     void Muestra(const Escena& escena);
     const Cuadro& DevCuadro() const { return cuadro_; }
 
-    // The picture at the screen's resolution, as it is copied: without what is being typed.
-    QImage DevImagen() const;
-
     // Logical coordinates of a place on the widget, and how far apart two pixels are there.
     QPointF DevLógico(const QPointF& lugar) const;
     QPointF DevSeparación() const;
@@ -36,10 +33,12 @@ public:
 Q_SIGNALS:
     // What the user wants.
     void fijaX(double x);
-    void mueveX(double pasos); // in tenths of the drawing scale
-    void zoom(const QPointF& centro, double factor);
-    void desplaza(const QPointF& distancia); // of the window, logical
-    void zoomGrafica(int indice);            // an entry of that menu
+    void mueveX(double pasos);                      // in tenths of the drawing scale
+    void rueda(const QPointF& centro, int sentido); // a notch, 1 towards what is nearer
+    void encuadra(const QPointF& unaEsquina, const QPointF& laOtra); // logical
+    void desplaza(const QPointF& distancia);                         // of the window, logical
+    void zoomGrafica(int indice);                                    // an entry of that menu
+    void gestoAcabado(); // the button has gone up, or the pointer has left
     // The pointer is over the picture, or away.
     void apunta(const QPointF& lugar);
     void noApunta();
@@ -56,13 +55,18 @@ protected:
 private:
     Lienzo DevLienzo() const; // in device pixels
     QPixmap DibujaCapa(const Cuadro& cuadro) const;
+    void DibujaInvitación(QPainter& pintor) const;
+    void DibujaEncuadre(QPainter& pintor) const;
+    void AcabaEncuadre();
 
     Cuadro cuadro_;
     Marcador marcador_;
     QPixmap capa_; // everything but the marker; null where it has to be drawn anew
     std::optional<QPointF> pulsado_; // where the left button went down, while it is down
     bool arrastrado_ = false;
-    int rueda_ = 0; // eighths of a degree that have not made a step yet
+    std::optional<QRectF> encuadre_; // while one is dragged with Mayús, from where to where
+    bool vacía_ = true;              // no function has been written
+    int rueda_ = 0;                  // eighths of a degree that have not made a step yet
 };
 
 } // namespace quiralto

@@ -89,6 +89,7 @@ Escena Compositor::Compone(Contexto& contexto, const Vista& vista, FuncionesGrá
     for (int i = 0; i < CantidadFunciones; ++i) {
         const FunciónGráfica& función = funciones[i];
         const auto lugar = static_cast<std::size_t>(i);
+        escena.vacía = escena.vacía && función.estado == EstadoTexto::Vacío;
         escena.motivos.at(lugar) = DevMotivo(función);
         if (función.EstáActiva() || función.EstáAtenuada())
             escena.cuadro.curvas.at(lugar) = {

@@ -53,6 +53,7 @@ struct Escena {
     Cuadro cuadro;
     Marcador marcador;
     std::vector<EntradaLeyenda> leyenda;
+    bool vacía = true; // no box holds anything
 
     std::string textoPuntoX;
     PorFunción<std::string> textosValor;       // rounded; empty where there is no value

@@ -1,8 +1,13 @@
 #include "ui/grafica/vista.h"
 
+#include "engine/numeros/numero.h"
+#include "ui/grafica/marcas_eje.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numbers>
+#include <utility>
 
 namespace quiralto {
 namespace {
@@ -44,6 +49,24 @@ void LlevaA(double& mínimo, double& máximo, double v) {
     const double distancia = v - (mínimo / 2 + máximo / 2);
     mínimo += distancia;
     máximo += distancia;
+}
+
+// A number no finer than a pixel.
+double DevAproximado(double valor, double separación) {
+    return Val(TextoCoordenada(valor, separación));
+}
+
+void RedondeaExtremos(Ventana& v, const Lugar& separación) {
+    for (double* const x : {&v.XMín, &v.XMáx})
+        *x = DevAproximado(*x, separación.x);
+    for (double* const y : {&v.YMín, &v.YMáx})
+        *y = DevAproximado(*y, separación.y);
+}
+
+// Two zooms by `primero` about a and then by `segundo` about b are one about this place.
+double DevCentroComún(double a, double b, double primero, double segundo) {
+    return (a * (1 - 1 / primero) / segundo + b * (1 - 1 / segundo)) /
+           (1 - 1 / (primero * segundo));
 }
 
 } // namespace
@@ -130,6 +153,58 @@ bool Vista::ZoomEn(const Lugar& centro, double factor) {
     Estado nueva = actual_;
     MagnificaEn(nueva.ventana.XMín, nueva.ventana.XMáx, centro.x, factor);
     MagnificaEn(nueva.ventana.YMín, nueva.ventana.YMáx, centro.y, factor);
+    return Cambia(nueva);
+}
+
+bool Vista::Rueda(const Lugar& centro, int sentido, const Lugar& separación) {
+    const auto zoom = [&](Ventana v, const Lugar& en, double factor) {
+        MagnificaEn(v.XMín, v.XMáx, en.x, factor);
+        MagnificaEn(v.YMín, v.YMáx, en.y, factor);
+        return v;
+    };
+    const Lugar aquí{DevAproximado(centro.x, separación.x), DevAproximado(centro.y, separación.y)};
+    const double factor = sentido > 0 ? std::numbers::sqrt2 : 1 / std::numbers::sqrt2;
+    const std::optional<MediaRueda> media = std::exchange(media_, std::nullopt);
+    Estado nueva = actual_;
+    if (!media || media->después != actual_.ventana) {
+        nueva.ventana = zoom(actual_.ventana, aquí, factor);
+        RedondeaExtremos(nueva.ventana, separación);
+        media_ = MediaRueda{actual_.ventana, nueva.ventana, aquí, sentido};
+    } else if (media->sentido != sentido) {
+        const double parte = 1 / factor - 1; // of the way between the two places
+        const double dx = DevAproximado((aquí.x - media->centro.x) * parte, separación.x);
+        const double dy = DevAproximado((aquí.y - media->centro.y) * parte, separación.y);
+        const Ventana& v = media->antes;
+        nueva.ventana = {v.XMáx - dx, v.XMín - dx, v.YMáx - dy, v.YMín - dy};
+    } else {
+        Lugar común = aquí;
+        if (media->centro.x != aquí.x || media->centro.y != aquí.y)
+            común = {DevAproximado(DevCentroComún(media->centro.x, aquí.x, factor, factor),
+                                   separación.x),
+                     DevAproximado(DevCentroComún(media->centro.y, aquí.y, factor, factor),
+                                   separación.y)};
+        nueva.ventana = zoom(media->antes, común, sentido > 0 ? 2 : 0.5);
+    }
+    return Cambia(nueva);
+}
+
+bool Vista::IgualaEjes(double ancho, double alto) {
+    Estado nueva = actual_;
+    Ventana& v = nueva.ventana;
+    const double enX = (v.XMáx - v.XMín) / ancho;
+    const double enY = (v.YMáx - v.YMín) / alto;
+    const auto ensancha = [](double& mínimo, double& máximo, double mitad, double separación) {
+        const double centro = mínimo / 2 + máximo / 2;
+        mínimo = DevAproximado(centro - mitad, separación);
+        máximo = DevAproximado(centro + mitad, separación);
+    };
+    constexpr double Partes = 100; // of a pixel, so that a second time changes nothing
+    if (std::fabs(enX - enY) * Partes < std::max(enX, enY) / Partes)
+        return false;
+    if (enX < enY)
+        ensancha(v.XMín, v.XMáx, enY * ancho / 2, enY / Partes);
+    else
+        ensancha(v.YMín, v.YMáx, enX * alto / 2, enX / Partes);
     return Cambia(nueva);
 }
 

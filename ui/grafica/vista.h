@@ -16,6 +16,12 @@ struct Lugar {
 
 class Vista {
 public:
+    struct Estado {
+        Ventana ventana;
+        double PuntoX = 0;
+    };
+
+    const Estado& DevEstado() const { return actual_; }
     const Ventana& DevVentana() const { return actual_.ventana; }
     double DevPuntoX() const { return actual_.PuntoX; }
     double DevAncho() const { return actual_.ventana.XMáx - actual_.ventana.XMín; }
@@ -51,15 +57,28 @@ public:
     // less of that where the view could not be drawn.
     bool LlevaPuntoX(const Lugar& lugar);
 
+    // A notch of the wheel about a place, towards what is nearer (1) or further (-1): by the square
+    // root of 2, with the ends rounded to below `separación` (the logical distance of two pixels).
+    // Two notches in one direction are a zoom by exactly 2, two in opposite ones none.
+    bool Rueda(const Lugar& centro, int sentido, const Lugar& separación);
+    // A unit as long on both axes, on a picture of that size in pixels. The axis with the longer
+    // unit is widened about its middle, so that nothing leaves the picture.
+    bool IgualaEjes(double ancho, double alto);
+    bool Vuelve(const Estado& estado) { return Cambia(estado); }
+
 private:
-    struct Estado {
-        Ventana ventana;
-        double PuntoX = 0;
+    // A notch of the wheel that waits for its other half.
+    struct MediaRueda {
+        Ventana antes;
+        Ventana después;
+        Lugar centro;
+        int sentido = 0;
     };
     bool Cambia(const Estado& nuevo);
 
     Estado actual_;
     Estado salvada_;
+    std::optional<MediaRueda> media_;
 };
 
 } // namespace quiralto

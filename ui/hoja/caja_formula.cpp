@@ -1,5 +1,6 @@
 #include "ui/hoja/caja_formula.h"
 
+#include "ui/dibujo/contraste.h"
 #include "ui/dibujo/fuentes.h"
 #include "ui/dibujo/texto_qt.h"
 #include "ui/grafica/nombres.h"
@@ -63,6 +64,7 @@ bool EsTeclaDeElegir(const QEvent& suceso) {
 CajaFormula::CajaFormula(QWidget* padre, Pitido pitido)
     : QLineEdit(padre), pitido_(std::move(pitido)) {
     setFont(DevFuenteFija());
+    PonColores();
     setValidator(new ComoTecleado(this));
     connect(this, &QLineEdit::inputRejected, this, [this] { pitido_(); }); // a text cut as too long
     connect(this, &QLineEdit::textEdited, this, &CajaFormula::Ofrece);
@@ -86,7 +88,8 @@ void CajaFormula::PonColores() {
     if (poniendo_)
         return;
     const QScopedValueRollback poniendo(poniendo_, true);
-    QPalette paleta; // but for two colours the desktop's
+    QPalette paleta; // but for these colours the desktop's
+    paleta.setColor(QPalette::PlaceholderText, DevTextoSuave(QApplication::palette(this)));
     if (EsErrónea()) {
         const bool oscura = QApplication::palette(this).color(QPalette::Base).lightness() < 128;
         paleta.setColor(QPalette::Base, oscura ? QColor(92, 34, 34) : QColor(255, 224, 224));

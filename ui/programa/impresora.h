@@ -1,4 +1,4 @@
-// The platform's print dialog.
+// The platform's print dialog, and what would be printed on the screen.
 #pragma once
 
 #include "ui/formularios/impresion.h"
@@ -8,6 +8,7 @@ namespace quiralto {
 class ImpresoraDelSistema : public Impresora {
 public:
     bool Elige(QPrinter& impresora, QWidget* padre) override;
+    bool Previsualiza(QPrinter& impresora, const Documento& documento, QWidget* padre) override;
 };
 
 } // namespace quiralto
