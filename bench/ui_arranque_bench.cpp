@@ -1,16 +1,20 @@
 // From the start of a process to its window painted for the first time:
 //   ventana-vacia       an empty window of the toolkit
+//   ventana-menus       the same with the program's actions, menus and toolbar
 //   quiralto            the program as main runs it, less the splash form's two seconds
 //   quiralto-sin-pausa  the program without that wait, so that all of its work counts
 // Both windows are as large, on the same platform plugin (offscreen, unless the environment says
 // otherwise). The process runs itself, as often as it measures; the child tells how long it was
 // since its parent's clock, so neither its end nor the pipe between them is measured.
 
+#include "ui/acciones/barra.h"
+#include "ui/acciones/menus.h"
 #include "ui/programa/aplicacion.h"
 #include "ui/programa/arranque.h"
 #include "ui/programa/impresora.h"
 #include "ui/programa/mensajes_ventana.h"
 
+#include <QMainWindow>
 #include <QProcess>
 #include <QScreen>
 
@@ -48,6 +52,16 @@ void AbreVacía(int argc, char** argv, Reloj::rep comienzo) {
     const QApplication aplicación(argc, argv);
     QWidget ventana;
     // as large as the program's
+    ventana.resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    MuestraYMide(ventana, comienzo);
+}
+
+void AbreMenús(int argc, char** argv, Reloj::rep comienzo) {
+    const QApplication aplicación(argc, argv);
+    QMainWindow ventana;
+    const Acciones acciones = CreaAcciones(ventana);
+    CreaMenús(*ventana.menuBar(), acciones);
+    CreaBarraHerramientas(*ventana.addToolBar(QString()), acciones);
     ventana.resize(QSize(1240, 780).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     MuestraYMide(ventana, comienzo);
 }
@@ -97,6 +111,8 @@ int main(int argc, char** argv) {
         const Reloj::rep comienzo = QByteArray(argv[3]).toLongLong();
         if (modo == "ventana-vacia")
             AbreVacía(argc, argv, comienzo);
+        else if (modo == "ventana-menus")
+            AbreMenús(argc, argv, comienzo);
         else
             AbreQuiralto(argc, argv, comienzo,
                          modo == "quiralto" ? RetardoInicial : milliseconds(0));
@@ -110,6 +126,7 @@ int main(int argc, char** argv) {
         int veces;
     } casos[] = {
         {"ventana-vacia", milliseconds(0), 20},
+        {"ventana-menus", milliseconds(0), 20},
         {"quiralto", RetardoInicial, 5},
         {"quiralto-sin-pausa", milliseconds(0), 20},
     };

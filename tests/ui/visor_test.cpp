@@ -278,7 +278,7 @@ TEST_F(Visor, LaGráficaSeCopiaConSuLeyendaComoPngYComoPdf) {
     Define(3, "X");
     Define(1, "9");
     Busca<QCheckBox>("chkfx_1").click(); // off: not in the legend either
-    QTest::keyClick(&visor, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(&visor, Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
     const QMimeData& copia = *QApplication::clipboard()->mimeData();
     const QImage imagen = QApplication::clipboard()->image();
     EXPECT_EQ(imagen.width(), visor.width());

@@ -101,7 +101,7 @@ void CreaVistas(QObject& padre, Acciones& a) {
     a.CopiarGráfica =
         Crea(padre, QStringLiteral("Copiar &gráfica"), QStringLiteral("CopiarGráfica"),
              QStringLiteral("La gráfica con su leyenda, al portapapeles"),
-             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
+             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
     a.CopiarTabla =
         Crea(padre, QStringLiteral("Copiar &tabla de valores"), QStringLiteral("CopiarTabla"),
              QStringLiteral(
