@@ -41,7 +41,9 @@ public:
     }
 
     // A new composer has no points of an earlier scene.
-    void Muestrea() { escena_ = Compositor().Compone(contexto_, vista_, funciones_, opciones_); }
+    void Muestrea() {
+        escena_ = Compositor().Compone(contexto_, vista_, funciones_, hallados_, opciones_);
+    }
 
     void PintaCurvas() {
         QPainter pintor(&imagen_);
@@ -101,6 +103,7 @@ private:
     Contexto contexto_{mensajes_, vigilante_, tabla_};
     Vista vista_;
     FuncionesGráficas funciones_{contexto_};
+    Hallados hallados_;
     Opciones opciones_;
     Escena escena_;
     int escala_;
