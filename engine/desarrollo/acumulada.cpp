@@ -22,7 +22,7 @@ std::optional<Términos> ElevaUno(TablaSímbolos& tabla, const Términos& base,
     }
     if (EsNúmero(base) && tabla.SoloPorLetra())
         return SumaNúmero(
-            Coeficiente::Inexacto(DevPotencia(DevNúmero(base).ADouble(), exponente.ADouble())));
+            tabla.DevRedondeado(DevPotencia(DevNúmero(base).ADouble(), exponente.ADouble())));
     if (base.size() != 1 || !base[0].coeficiente.EsUno())
         return std::nullopt;
     const Literal& literal = base[0].literal;
@@ -95,7 +95,7 @@ Términos DevLlamada(TablaSímbolos& tabla, const DescripciónOperación& funci�
         const double valor = DevNúmero(argumento).ADouble();
         if (const Fallo fallo = función.fallo(0, valor); fallo != SinFallo)
             throw ErrorEjecución(fallo);
-        return SumaNúmero(Coeficiente::Inexacto(función.valor(0, valor, nullptr)));
+        return SumaNúmero(tabla.DevRedondeado(función.valor(0, valor, nullptr)));
     }
     Base base{.clase = ClaseBase::Función,
               .texto = std::move(llamada),

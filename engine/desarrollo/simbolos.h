@@ -99,6 +99,13 @@ public:
     bool HayCocientes() const { return hayCocientes_; }
     bool SoloPorLetra() const { return clase == ClaseDesarrollo::EcuaciónLineal; }
 
+    // A Double that stands for another number, as SQR(2), to its last bit: it is remembered.
+    Coeficiente DevRedondeado(double valor) {
+        hayRedondeados_ = true;
+        return Coeficiente::DesdeBits(valor);
+    }
+    bool HayRedondeados() const { return hayRedondeados_; }
+
     // One more level of quotients and groups at work inside each other; see GuardaProfundidad.
     void Entra();
     void Sale() { --profundidad_; }
@@ -130,6 +137,7 @@ private:
     bool hayReducibles_ = false;
     bool hayRaíces_ = false;
     bool hayCocientes_ = false;
+    bool hayRedondeados_ = false;
 };
 
 // Held by whatever works on the inside of a quotient or group: recursion that follows the input's

@@ -81,6 +81,17 @@ Coeficiente Coeficiente::DesdeDouble(double valor) {
                                 : Coeficiente(mantisa, potencia);
 }
 
+Coeficiente Coeficiente::DesdeBits(double valor) {
+    int exponente = 0;
+    const double mantisa = std::frexp(CompruebaFinito(valor), &exponente);
+    constexpr int Bits = std::numeric_limits<double>::digits;
+    const Entero entero(static_cast<std::int64_t>(std::ldexp(mantisa, Bits)));
+    exponente -= Bits;
+    return exponente >= 0
+               ? Coeficiente(entero.Desplazado(static_cast<std::size_t>(exponente)), 1)
+               : Coeficiente(entero, Entero(1).Desplazado(static_cast<std::size_t>(-exponente)));
+}
+
 Coeficiente Coeficiente::Inexacto(double valor) {
     Coeficiente c;
     c.valor_.real = CompruebaFinito(valor);

@@ -28,6 +28,9 @@ public:
     // number up to 2^53.
     static Coeficiente DesdeDouble(double valor);
 
+    // The Double to its last bit. Faults: run-time error 5 or 6 for what is not finite.
+    static Coeficiente DesdeBits(double valor);
+
     // The Double itself, not exact. Faults: run-time error 5 or 6 for what is not finite.
     static Coeficiente Inexacto(double valor);
 

@@ -52,7 +52,7 @@ bool HayVariable(std::string_view texto) {
 
 class Lector {
 public:
-    Lector(Contexto& contexto, const TablaSímbolos& tabla) : contexto_(contexto), tabla_(tabla) {}
+    Lector(Contexto& contexto, TablaSímbolos& tabla) : contexto_(contexto), tabla_(tabla) {}
 
     bool SintaxisSln(const Términos& suma) {
         for (const Término& término : suma)
@@ -64,6 +64,7 @@ public:
     EcuaciónLineal Toma() {
         EcuaciónLineal ecuación;
         ecuación.independiente = independiente_;
+        ecuación.redondeada = tabla_.HayRedondeados();
         for (int i = 1; i <= MáximoÍndiceSln; ++i)
             if (const auto& coeficiente = coeficientes_[static_cast<std::size_t>(i)])
                 ecuación.términos.push_back({i, *coeficiente});
@@ -89,7 +90,7 @@ private:
             const std::optional<double> valor = DevConstante(base);
             if (!valor)
                 return RechazaNoLineal(contexto_);
-            coeficiente *= Coeficiente::Inexacto(*valor);
+            coeficiente *= tabla_.DevRedondeado(*valor);
         }
         if (índice == 0) {
             independiente_ -= coeficiente;
@@ -116,7 +117,7 @@ private:
     }
 
     Contexto& contexto_;
-    const TablaSímbolos& tabla_;
+    TablaSímbolos& tabla_;
     std::array<std::optional<Coeficiente>, MáximoÍndiceSln + 1> coeficientes_{}; // of those met
     Coeficiente independiente_;
     bool hayIncógnitas_ = false;

@@ -22,6 +22,7 @@ struct TérminoSln {
 struct EcuaciónLineal {
     std::vector<TérminoSln> términos;
     Coeficiente independiente;
+    bool redondeada = false; // some number of it is a Double that stands for another, as SQR(2)
 };
 
 // The equation expresión = 0, for a text that Sintaxis has accepted while it accepts "SLN(". Every

@@ -3,6 +3,7 @@
 #include "engine/numeros/numero.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace quiralto {
 namespace {
@@ -26,9 +27,21 @@ Entero QuitaContenido(std::span<Entero> fila) {
 
 } // namespace
 
+std::size_t MatrizExacta::MáximosBits(std::size_t filas) {
+    // The words of a number times themselves times the cube of the equations.
+    constexpr double Trabajo = 1 << 20;
+    constexpr double BitsDePalabra = 64;
+    constexpr double Menos = 256;
+    constexpr double Más = 1000; // with its factor it stays an exact Coeficiente
+    const auto n = static_cast<double>(std::max<std::size_t>(filas, 1));
+    return static_cast<std::size_t>(
+        std::clamp(BitsDePalabra * std::sqrt(Trabajo / (n * n * n)), Menos, Más));
+}
+
 MatrizExacta::MatrizExacta(Contexto& contexto, std::span<const EcuaciónLineal> ecuaciones)
     : MatrizSln(contexto, ecuaciones.size(), DevIncógnitas(ecuaciones)),
-      elementos_(filas_ * ancho_), factor_(filas_) {
+      elementos_(filas_ * ancho_), factor_(filas_),
+      redondeada_(std::ranges::any_of(ecuaciones, &EcuaciónLineal::redondeada)) {
     for (std::size_t fila = 0; fila < filas_; ++fila) {
         contexto_.Vigila();
         PonFila(fila, ecuaciones[fila]);
@@ -53,7 +66,8 @@ void MatrizExacta::PonFila(std::size_t fila, const EcuaciónLineal& ecuación) {
 }
 
 bool MatrizExacta::Cabe() const {
-    return std::ranges::all_of(elementos_, [](const Entero& e) { return e.Bits() <= MáximosBits; });
+    const std::size_t máximo = MáximosBits(filas_);
+    return std::ranges::all_of(elementos_, [=](const Entero& e) { return e.Bits() <= máximo; });
 }
 
 bool MatrizExacta::EsNulo(std::size_t fila, std::size_t columna) const {
@@ -91,11 +105,14 @@ bool MatrizExacta::TrasformaFila(std::size_t fila, std::size_t columna, std::siz
     }
     const Entero contenido = QuitaContenido(suya);
     factor_[fila] = factor_[fila] * Coeficiente(contenido, porSuya);
-    return std::ranges::all_of(suya, [](const Entero& e) { return e.Bits() <= MáximosBits; });
+    const std::size_t máximo = MáximosBits(filas_);
+    return std::ranges::all_of(suya, [=](const Entero& e) { return e.Bits() <= máximo; });
 }
 
 Coeficiente MatrizExacta::Cociente(std::size_t fila, std::size_t columna,
                                    std::size_t divisor) const {
+    if (redondeada_ && EsNulo(fila, columna))
+        return 0; // what the Doubles have left
     return {elementos_[Lugar(fila, columna)], elementos_[Lugar(fila, divisor)]};
 }
 

@@ -8,9 +8,10 @@ namespace quiralto {
 
 class MatrizExacta : public MatrizSln {
 public:
-    // A whole number of a row has at most so many bits: what eight equations with all the digits of
-    // a Double come to, or forty with small whole numbers, which take a tenth of a second.
-    static constexpr std::size_t MáximosBits = 256;
+    // A whole number of a row has at most so many bits: what forty equations with small whole
+    // numbers come to, which take a tenth of a second; and, where there are fewer equations, what
+    // takes no longer than that: sixteen with all the digits of a Double.
+    static std::size_t MáximosBits(std::size_t filas);
 
     // Every coefficient is exact.
     MatrizExacta(Contexto& contexto, std::span<const EcuaciónLineal> ecuaciones);
@@ -28,6 +29,7 @@ private:
 
     std::vector<Entero> elementos_;   // of a row without a common factor
     std::vector<Coeficiente> factor_; // of each row
+    bool redondeada_;                 // the equations hold Doubles that stand for other numbers
 };
 
 } // namespace quiralto

@@ -29,8 +29,8 @@ void SistemaLineal::Elimina() {
     const MatrizReal& pulso = *real;
     if (!EliminaCon(std::move(real)) || !pulso.EsFinita())
         throw ErrorEjecución(Desbordamiento);
-    if (pulso.DevBitsExactos() <= MatrizExacta::MáximosBits &&
-        std::ranges::all_of(ecuaciones_, EsExacta)) {
+    const auto máximo = static_cast<double>(MatrizExacta::MáximosBits(ecuaciones_.size()));
+    if (pulso.DevBitsExactos() <= máximo && std::ranges::all_of(ecuaciones_, EsExacta)) {
         std::unique_ptr<MatrizSln> enReal = std::move(matriz_);
         auto exacta = std::make_unique<MatrizExacta>(contexto_, ecuaciones_);
         if (!exacta->Cabe() || !EliminaCon(std::move(exacta)))

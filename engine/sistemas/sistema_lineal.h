@@ -13,9 +13,10 @@
 
 namespace quiralto {
 
-// The elimination is exact while all coefficients are exact and its numbers stay within
-// MatrizExacta::MáximosBits; otherwise the whole of it runs on Doubles. In either an entry that
-// rounds to 0 at DígitosRedondeo is 0 where a pivot or a contradiction is looked for.
+// The elimination is exact while all coefficients are exact, a Double such as SQR(2) to its last
+// bit, and its numbers stay within MatrizExacta::MáximosBits; otherwise the whole of it runs on
+// Doubles. In either an entry that rounds to 0 at DígitosRedondeo is 0 where a pivot or a
+// contradiction is looked for.
 class SistemaLineal {
 public:
     // As many unknowns as the highest index that an equation has.
@@ -35,7 +36,8 @@ public:
     std::size_t Incógnitas() const { return líderes_.size(); }
 
     // Once eliminated: an entry of a row over that of the unknown with which it leads; column
-    // Incógnitas() is the constant. On Doubles an entry that rounds to 0 gives 0.
+    // Incógnitas() is the constant. Where Doubles have rounded, an entry
+    // that rounds to 0 gives 0.
     Coeficiente Cociente(std::size_t fila, std::size_t columna, std::size_t líder) const {
         return matriz_->Cociente(fila, columna, líder);
     }

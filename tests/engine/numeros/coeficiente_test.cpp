@@ -114,6 +114,21 @@ TEST(Coeficiente, LeeDecimalesYDoublesComoSeEscriben) {
     EXPECT_EQ(Coeficiente::DesdeDouble(1e300), Coeficiente(10).Potencia(300));
 }
 
+TEST(Coeficiente, TomaUnDoubleHastaSuÚltimoBit) {
+    EXPECT_EQ(Coeficiente::DesdeBits(0.75), Fracción(3, 4));
+    EXPECT_EQ(Coeficiente::DesdeBits(-6), Coeficiente(-6));
+    EXPECT_EQ(Coeficiente::DesdeBits(0), Coeficiente(0));
+    EXPECT_EQ(Coeficiente::DesdeBits(std::ldexp(3, 90)),
+              Coeficiente(3) * Coeficiente(2).Potencia(90));
+    for (const double x : {0.1, std::sqrt(2.0), -1.0 / 3, 1e300, 1e-300}) {
+        EXPECT_TRUE(Coeficiente::DesdeBits(x).EsExacto()) << x;
+        EXPECT_EQ(Coeficiente::DesdeBits(x).ADouble(), x);
+    }
+    EXPECT_NE(Coeficiente::DesdeBits(0.1), Fracción(1, 10));
+    EXPECT_EQ(DevError([] { Coeficiente::DesdeBits(HUGE_VAL); }), Desbordamiento);
+    EXPECT_EQ(DevError([] { Coeficiente::DesdeBits(std::nan("")); }), ArgumentoInválido);
+}
+
 TEST(Coeficiente, SeRedondeaComoSeEscribe) {
     const struct {
         Coeficiente valor;
