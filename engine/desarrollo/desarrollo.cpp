@@ -15,13 +15,24 @@ namespace quiralto {
 namespace {
 
 template <typename Reglas>
+typename Reglas::Valor Suma(Reglas& reglas, typename Reglas::Valor a, typename Reglas::Valor b,
+                            int signo) {
+    if (b.producto && !a.producto && a.suma.Cantidad() == 0) { // a sign before a product
+        if (signo < 0)
+            b.producto->coeficiente.CambiaSigno();
+        return b;
+    }
+    return reglas.Suma(std::move(a), std::move(b), signo);
+}
+
+template <typename Reglas>
 typename Reglas::Valor Opera(Reglas& reglas, const DescripciónOperación& operación,
                              typename Reglas::Valor a, typename Reglas::Valor b) {
     switch (operación.familia) {
     case Familia::Suma:
-        return reglas.Suma(std::move(a), std::move(b), 1);
+        return Suma(reglas, std::move(a), std::move(b), 1);
     case Familia::Resta:
-        return reglas.Suma(std::move(a), std::move(b), -1);
+        return Suma(reglas, std::move(a), std::move(b), -1);
     case Familia::Producto:
         return reglas.Producto(a, b);
     case Familia::Cociente:

@@ -29,11 +29,6 @@ FracciónAbierta ReglasCompleto::ComoProducto(Valor& valor) {
 }
 
 Valor ReglasCompleto::Suma(Valor a, Valor b, int signo) {
-    if (b.producto && !a.producto && a.suma.Cantidad() == 0) { // a sign alone
-        if (signo < 0)
-            b.producto->coeficiente.CambiaSigno();
-        return b;
-    }
     Cierra(a);
     Cierra(b);
     const Coeficiente divisor = DevMcm(a.divisor, b.divisor);

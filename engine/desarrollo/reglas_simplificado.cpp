@@ -49,11 +49,6 @@ bool ReglasSimplificado::EsSumaConCocientes(Valor& valor) {
 }
 
 Valor ReglasSimplificado::Suma(Valor a, Valor b, int signo) {
-    if (b.producto && !a.producto && a.suma.Cantidad() == 0) { // a sign alone
-        if (signo < 0)
-            b.producto->coeficiente.CambiaSigno();
-        return b;
-    }
     Cierra(a);
     Cierra(b);
     a.suma.Añade(tabla_, std::move(b.suma), signo);
