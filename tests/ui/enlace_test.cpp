@@ -276,7 +276,7 @@ protected:
         for (const auto& [dx, dy] : {std::pair{0, 0}, {2, 2}, {-2, 2}, {2, -2}, {-2, -2}})
             blancos += DevColorEn(x, y, dx, dy) == QColor(Qt::white) ? 1 : 0;
         int bordes = 0;
-        for (const auto& [dx, dy] : {std::pair{5, 0}, {-5, 0}, {0, 5}, {0, -5}})
+        for (const auto& [dx, dy] : {std::pair{6, 0}, {-6, 0}, {0, 6}, {0, -6}})
             bordes += DevColorEn(x, y, dx, dy) == color ? 1 : 0;
         return blancos == 5 && bordes == 4;
     }
@@ -300,6 +300,26 @@ TEST_F(Marcadas, LosLugaresHalladosSonPuntosHuecosEnSuFunción) {
     EXPECT_FALSE(HayMarca(2, 0, magenta));
     Busca<QScrollBar>("hsx").setValue(50); // whose dot lies above the mark
     EXPECT_TRUE(HayMarca(0, -4, magenta));
+}
+
+TEST_F(Marcadas, SeVenBajoElPuntoX) {
+    Define(1, "X^2-4");
+    Resuelve(QStringLiteral("X^2-4,-5,5"), "HallarSoluciones");
+    Busca<QScrollBar>("hsx").setValue(20);
+    for (const int lado : {-6, 6})
+        EXPECT_EQ(DevColorEn(2, 0, lado), magenta);
+    EXPECT_EQ(DevColorEn(2, 0, 2), magenta); // the dot itself
+    EXPECT_EQ(DevColorEn(-2, 0, 2), QColor(Qt::white));
+}
+
+// The command tells of every change of sign; there the curve has no zero.
+TEST_F(Marcadas, UnPoloNoSeMarca) {
+    Define(1, "TAN(X)");
+    Resuelve(QStringLiteral("TAN(X),-2,4.1"), "HallarSoluciones");
+    EXPECT_NE(DevTexto().find("'Solución en X= 1.57079633"), std::string::npos);
+    EXPECT_TRUE(DevDescripción().endsWith(
+        QStringLiteral("Marcas: Solución de f1(X) en X=0; Solución de f1(X) en X=3.14159265")))
+        << DevDescripción().toStdString();
 }
 
 TEST_F(Marcadas, ElGloboLoDice) {

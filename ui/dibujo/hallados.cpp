@@ -92,7 +92,7 @@ void DibujaÁreas(QPainter& pintor, const Lienzo& lienzo, const Cuadro& cuadro) 
 void DibujaLugares(QPainter& pintor, const Lienzo& lienzo, const Cuadro& cuadro) {
     if (cuadro.marcas == nullptr)
         return;
-    constexpr qreal Radio = 5;
+    constexpr qreal Radio = 6.5; // so that the dot of the point X leaves its ring
     constexpr qreal Trazo = 2;
     pintor.save();
     pintor.setRenderHint(QPainter::Antialiasing);

@@ -292,7 +292,7 @@ void ControlGráfica::AlAcabarOrden() {
     if (ejecutor_.DevHallazgos().empty())
         return;
     const auto pon = [this] {
-        hallados_.Pon(ejecutor_.DevHallazgos());
+        hallados_.Pon(ejecutor_.DevHallazgos(), contexto_.DígitosRedondeo);
         return true;
     };
     ConTrampa(pon, {&C::DibujarActivadas});

@@ -2,6 +2,7 @@
 
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
+#include "ui/grafica/ceros.h"
 #include "ui/grafica/datos_hoja.h"
 
 #include <algorithm>
@@ -55,9 +56,33 @@ std::string DevTexto(const Hallazgo& h, const Destino& destino, double y, int d�
            (h.clase == ClaseHallazgo::Solución ? "" : vale);
 }
 
+// Where a finding is marked; nowhere where the function has no such place.
+std::optional<Lugar> DevLugar(FuncionesGráficas& funciones, const Hallazgo& h,
+                              const Destino& destino, int dígitosHallados) {
+    const auto valor = [&](double x) { return funciones.DevValor(destino.índice, x); };
+    const auto diferencia = [&](double x) -> std::optional<double> {
+        const std::optional<double> f = valor(x);
+        const std::optional<double> g = funciones.DevValor(destino.cortada, x);
+        return f && g ? std::optional(*f - *g) : std::nullopt;
+    };
+    // as far as rounding may have moved it
+    constexpr double PartesDelValor = 1e12;
+    const double margen = std::max(std::pow(10, -dígitosHallados), std::fabs(h.x) / PartesDelValor);
+    if (h.clase != ClaseHallazgo::Solución)
+        return margen < (h.hasta - h.desde) / 1000 && EsPolo(valor, h.x, margen)
+                   ? std::nullopt
+                   : std::optional(Lugar{h.x, h.y});
+    if (destino.cortada < 0) {
+        const std::optional<double> x = DevCero(valor, h.x, margen);
+        return x ? std::optional(Lugar{*x, 0}) : std::nullopt;
+    }
+    const std::optional<double> x = DevCero(diferencia, h.x, margen);
+    return x ? std::optional(Lugar{*x, *valor(*x)}) : std::nullopt;
+}
+
 // One finding on its function.
 void Añade(Marcas& marcas, FuncionesGráficas& funciones, const Hallazgo& h, const Destino& destino,
-           int dígitos) {
+           int dígitos, int dígitosHallados) {
     if (h.clase == ClaseHallazgo::Área) {
         marcas.áreas.push_back({destino.índice, h.desde, h.hasta,
                                 "Área de " + DevNombre(destino.índice) + " de " +
@@ -65,22 +90,17 @@ void Añade(Marcas& marcas, FuncionesGráficas& funciones, const Hallazgo& h, co
                                     TextoNúmero(Redondea(h.y, dígitos))});
         return;
     }
-    double y = h.clase == ClaseHallazgo::Solución ? 0 : h.y;
-    if (destino.cortada >= 0) {
-        const std::optional<double> valor = funciones.DevValor(destino.índice, h.x);
-        if (!valor)
-            return;
-        y = *valor;
-    }
-    marcas.lugares.push_back({destino.índice, {h.x, y}, DevTexto(h, destino, y, dígitos)});
+    if (const std::optional<Lugar> lugar = DevLugar(funciones, h, destino, dígitosHallados))
+        marcas.lugares.push_back({destino.índice, *lugar, DevTexto(h, destino, lugar->y, dígitos)});
 }
 
 } // namespace
 
-void Hallados::Pon(const std::vector<Hallazgo>& hallazgos) {
+void Hallados::Pon(const std::vector<Hallazgo>& hallazgos, int dígitos) {
     if (hallazgos.empty())
         return;
     hallazgos_ = hallazgos;
+    dígitos_ = dígitos;
     hechas_ = false;
 }
 
@@ -111,7 +131,7 @@ std::shared_ptr<const Marcas> Hallados::DevMarcas(const Contexto& contexto,
         return marcas_;
     Marcas marcas;
     for (const Hallazgo& hallazgo : hallazgos_)
-        Añade(marcas, funciones, hallazgo, *destino, estado.dígitos);
+        Añade(marcas, funciones, hallazgo, *destino, estado.dígitos, dígitos_);
     if (!marcas.EstáVacía())
         marcas_ = std::make_shared<const Marcas>(std::move(marcas));
     return marcas_;

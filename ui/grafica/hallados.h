@@ -35,14 +35,15 @@ struct Marcas {
 class Hallados {
 public:
     // What a command has found takes the place of what the last one had; nothing found changes
-    // nothing.
-    void Pon(const std::vector<Hallazgo>& hallazgos);
+    // nothing. `dígitos`: to which the places were rounded.
+    void Pon(const std::vector<Hallazgo>& hallazgos, int dígitos);
     void Quita();
     bool EstáVacío() const { return hallazgos_.empty(); }
 
     // The marks on the active functions: those found for a function of the same text, and on f the
-    // solutions of (f)-(g) where g is active too. None: a null pointer. The same pointer as long as
-    // nothing has changed.
+    // solutions of (f)-(g) where g is active too. A solution stands where the curve crosses the
+    // axis, not where that place was rounded to; a pole or a jump, at which the sign changes too,
+    // has no mark. None: a null pointer. The same pointer as long as nothing has changed.
     std::shared_ptr<const Marcas> DevMarcas(const Contexto& contexto, FuncionesGráficas& funciones);
 
 private:
@@ -55,6 +56,7 @@ private:
     };
 
     std::vector<Hallazgo> hallazgos_;
+    int dígitos_ = 0; // to which they are rounded
     std::shared_ptr<const Marcas> marcas_;
     Estado estado_; // that the marks were made for
     bool hechas_ = false;
