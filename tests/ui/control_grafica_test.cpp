@@ -77,7 +77,8 @@ struct ControlMontado {
     explicit ControlMontado(Contexto& contexto, VigilanteÓrdenes& vigilante)
         : marco(contexto), ejecutor(contexto, vigilante, hoja),
           control(contexto, ejecutor,
-                  {visor, panel, marco, hsEjeX, vsEjeY, hsx, zoom, coordenadas}) {
+                  {visor, panel, marco, hsEjeX, vsEjeY, hsx, zoom, coordenadas, vistaAnterior,
+                   avisos}) {
         hsx.setRange(-100, 100);
     }
 
@@ -102,6 +103,8 @@ struct ControlMontado {
     QScrollBar hsx{Qt::Horizontal};
     QLabel zoom;
     QLabel coordenadas;
+    QAction vistaAnterior;
+    QStatusBar avisos;
     Ejecutor ejecutor;
     ControlGrabado control;
 };

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -397,6 +398,8 @@ TEST_F(Gráfica, LoQueSeTecleaEnElPuntoXNoSePierdePorLoDemás) {
 TEST_F(Gráfica, ElEjeYSeAjustaALasCurvas) {
     Pulsa("AjustarEjeY"); // to none
     EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "10", "-10"}));
+    EXPECT_EQ(formulario.statusBar()->currentMessage(),
+              QStringLiteral("No hay curva a la que ajustar el eje"));
     Define(0, "SIN(X)");
     Define(1, "40*COS(X)");
     Pulsa("AjustarEjeY");

@@ -236,8 +236,51 @@ TEST_F(Visor, ElRectánguloSeVeYEscapeLoDeja) {
     EXPECT_NE(visor.grab().toImage().pixel(160, 150), antes.pixel(160, 150));
     QTest::keyClick(&visor, Qt::Key_Escape);
     EXPECT_EQ(visor.grab().toImage().pixel(160, 150), antes.pixel(160, 150));
+    Mueve(QPoint(250, 200), Qt::ShiftModifier); // the button is still down, and does nothing more
+    Mueve(QPoint(300, 250), Qt::NoModifier);
     QTest::mouseRelease(&visor, Qt::LeftButton, Qt::ShiftModifier, QPoint(450, 300));
     EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
+    Arrastra(QPoint(150, 100), QPoint(450, 300), Qt::ShiftModifier);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "-5", "5", "-5"}));
+}
+
+TEST_F(Visor, UnRectánguloNoAbarcaMásQueLaImagen) {
+    Arrastra(QPoint(300, 200), QPoint(900, -700), Qt::ShiftModifier);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "0", "10", "0"}));
+    Arrastra(QPoint(300, 200), QPoint(-40, 700), Qt::ShiftModifier);
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "0", "5", "0"}));
+    Arrastra(QPoint(-40, -40), QPoint(-400, -30), Qt::ShiftModifier); // all of it outside
+    EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"5", "0", "5", "0"}));
+}
+
+// A menu that opens in the midst takes the button's release.
+TEST_F(Visor, UnBotónQueSubióEnOtraParteNoSigueArrastrando) {
+    for (const Qt::KeyboardModifiers teclas : {Qt::NoModifier, Qt::ShiftModifier}) {
+        QTest::mousePress(&visor, Qt::LeftButton, teclas, QPoint(150, 100));
+        QMouseEvent movido(QEvent::MouseMove, QPointF(450, 300),
+                           visor.mapToGlobal(QPointF(450, 300)), Qt::NoButton, Qt::NoButton,
+                           Qt::NoModifier);
+        QApplication::sendEvent(&visor, &movido);
+        EXPECT_EQ(visor.cursor().shape(), Qt::CrossCursor);
+        QTest::mouseRelease(&visor, Qt::LeftButton, Qt::NoModifier, QPoint(450, 300));
+        EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"10", "-10", "10", "-10"}));
+        EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("0"));
+    }
+}
+
+TEST_F(Visor, NoHayVistaAnteriorMientrasNoHayaNinguna) {
+    const QAction& anterior = Busca<QAction>("VistaAnterior");
+    EXPECT_FALSE(anterior.isEnabled());
+    Pulsa("ValoresPorDefectoEjes"); // as it is
+    EXPECT_FALSE(anterior.isEnabled());
+    Gira(120);
+    EXPECT_TRUE(anterior.isEnabled());
+    Pulsa("ZoomEjeX_0");
+    Pulsa("VistaAnterior");
+    EXPECT_TRUE(anterior.isEnabled());
+    Pulsa("VistaAnterior");
+    EXPECT_FALSE(anterior.isEnabled());
 }
 
 TEST_F(Visor, LaVistaAnteriorVuelvePorGestos) {
@@ -257,7 +300,7 @@ TEST_F(Visor, LaVistaAnteriorVuelvePorGestos) {
     EXPECT_EQ(DevExtremos(), trasLaRueda);
     QTest::keyClick(&visor, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(DevExtremos(), alComienzo);
-    Pulsa("VistaAnterior"); // there is none
+    QTest::keyClick(&visor, Qt::Key_Left, Qt::AltModifier); // there is none
     EXPECT_EQ(DevExtremos(), alComienzo);
 }
 

@@ -98,6 +98,7 @@ void CreaVistas(QObject& padre, Acciones& a) {
         Crea(padre, QStringLiteral("&Vista anterior"), QStringLiteral("VistaAnterior"),
              QStringLiteral("Los extremos de antes del último cambio"),
              QKeySequence(Qt::ALT | Qt::Key_Left));
+    a.VistaAnterior->setEnabled(false);
     a.CopiarGráfica =
         Crea(padre, QStringLiteral("Copiar &gráfica"), QStringLiteral("CopiarGráfica"),
              QStringLiteral("La gráfica con su leyenda, al portapapeles"),

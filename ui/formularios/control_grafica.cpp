@@ -73,6 +73,7 @@ bool ControlGráfica::Atiende(const Cambio& cambia, const Pasos& pasos) {
             return false;
         Muestra(pasos);
         historia_.Anota(antes, vista_.DevEstado(), gesto_);
+        partes_.vistaAnterior.setEnabled(!historia_.EstáVacía());
         return true;
     } catch (const ErrorEjecución& error) {
         MensajeErrorOverflow(error.Número());

@@ -8,8 +8,10 @@
 #include "ui/grafica/historia.h"
 #include "ui/hoja/ejecutor.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStatusBar>
 
 #include <chrono>
 #include <functional>
@@ -30,6 +32,8 @@ public:
         QScrollBar& hsx;
         QLabel& zoom;        // the window, in words
         QLabel& coordenadas; // under the pointer
+        QAction& vistaAnterior;
+        QStatusBar& avisos; // of what cannot be done
     };
 
     // Context and executor outlive the control. A change that comes while a command runs waits

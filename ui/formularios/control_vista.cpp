@@ -10,6 +10,8 @@
 namespace quiralto {
 namespace {
 
+constexpr int DuraciónAviso = 4000; // milliseconds
+
 using C = ControlGráfica;
 
 } // namespace
@@ -56,7 +58,11 @@ void ControlGráfica::AjustarEjeY_Click() {
             DevAjustada(funciones_, vista_.DevVentana(), opciones_.CantidadPuntos);
         return ventana && vista_.FijaExtremos(*ventana);
     };
-    ConTrampa(ajusta, {&C::DibujarActivadas});
+    ConTrampa(ajusta, {&C::DibujarActivadas}, [this](bool bien) {
+        if (!bien)
+            partes_.avisos.showMessage(QStringLiteral("No hay curva a la que ajustar el eje"),
+                                       DuraciónAviso);
+    });
 }
 
 void ControlGráfica::EjesIguales_Click() {

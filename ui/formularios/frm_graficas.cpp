@@ -160,16 +160,18 @@ void FrmGráficas::CreaMenúsYBarra() {
 }
 
 void FrmGráficas::CreaControl() {
-    control_ =
-        std::make_unique<ControlGráfica>(contexto_, *ejecutor_,
-                                         ControlGráfica::Partes{.visor = *visor_,
-                                                                .panel = *panel_,
-                                                                .marco = *marco_,
-                                                                .hsEjeX = ejeX_->DevBarra(),
-                                                                .vsEjeY = ejeY_->DevBarra(),
-                                                                .hsx = puntoX_->DevBarra(),
-                                                                .zoom = *zoom_,
-                                                                .coordenadas = *coordenadas_});
+    control_ = std::make_unique<ControlGráfica>(
+        contexto_, *ejecutor_,
+        ControlGráfica::Partes{.visor = *visor_,
+                               .panel = *panel_,
+                               .marco = *marco_,
+                               .hsEjeX = ejeX_->DevBarra(),
+                               .vsEjeY = ejeY_->DevBarra(),
+                               .hsx = puntoX_->DevBarra(),
+                               .zoom = *zoom_,
+                               .coordenadas = *coordenadas_,
+                               .vistaAnterior = *acciones_.VistaAnterior,
+                               .avisos = *statusBar()});
     enlace_ = std::make_unique<EnlaceHoja>(
         contexto_, *ejecutor_,
         EnlaceHoja::Partes{

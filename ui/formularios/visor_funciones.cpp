@@ -99,12 +99,20 @@ void VisorFunciones::DibujaInvitación(QPainter& pintor) const {
     pintor.drawText(lugar, Modo, texto);
 }
 
-void VisorFunciones::DibujaEncuadre(QPainter& pintor) const {
+// What is seen of it: no more can be chosen than there is on the picture.
+std::optional<QRectF> VisorFunciones::DevEncuadre() const {
     if (!encuadre_)
+        return std::nullopt;
+    return encuadre_->normalized().intersected(QRectF(0, 0, width() - 1, height() - 1));
+}
+
+void VisorFunciones::DibujaEncuadre(QPainter& pintor) const {
+    const std::optional<QRectF> marco = DevEncuadre();
+    if (!marco)
         return;
     pintor.setPen(QPen(ColorTexto, 1, Qt::DashLine));
     pintor.setBrush(QColor(ColorTexto.red(), ColorTexto.green(), ColorTexto.blue(), 24));
-    pintor.drawRect(encuadre_->normalized());
+    pintor.drawRect(*marco);
     pintor.setBrush(Qt::NoBrush);
 }
 
@@ -174,8 +182,10 @@ void VisorFunciones::keyPressEvent(QKeyEvent* suceso) {
         Q_EMIT zoomGrafica(3);
         break;
     case Qt::Key_Escape:
-        encuadre_.reset();
-        update();
+        if (encuadre_)
+            Suelta();
+        else
+            QWidget::keyPressEvent(suceso);
         break;
     default:
         QWidget::keyPressEvent(suceso);
@@ -191,9 +201,21 @@ void VisorFunciones::mousePressEvent(QMouseEvent* suceso) {
         encuadre_ = QRectF(*pulsado_, *pulsado_);
 }
 
+// Whatever the button was doing is over.
+void VisorFunciones::Suelta() {
+    pulsado_.reset();
+    encuadre_.reset();
+    setCursor(Qt::CrossCursor);
+    update();
+}
+
 void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
     const QPointF lugar = suceso->position();
-    if (pulsado_ && suceso->buttons().testFlag(Qt::LeftButton)) {
+    if (pulsado_ && !suceso->buttons().testFlag(Qt::LeftButton)) { // it has gone up over a menu
+        Suelta();
+        Q_EMIT gestoAcabado();
+    }
+    if (pulsado_) {
         const QPointF desvío = lugar - *pulsado_;
         arrastrado_ = arrastrado_ || desvío.manhattanLength() >= QApplication::startDragDistance();
         if (encuadre_) {
@@ -212,20 +234,18 @@ void VisorFunciones::mouseMoveEvent(QMouseEvent* suceso) {
 void VisorFunciones::mouseReleaseEvent(QMouseEvent* suceso) {
     if (suceso->button() != Qt::LeftButton || !pulsado_)
         return;
-    pulsado_.reset();
-    setCursor(Qt::CrossCursor);
-    if (encuadre_)
-        AcabaEncuadre();
+    const std::optional<QRectF> marco = DevEncuadre();
+    Suelta();
+    if (marco)
+        Encuadra(*marco);
     else if (!arrastrado_)
         Q_EMIT fijaX(DevLógico(suceso->position()).x());
     Q_EMIT gestoAcabado();
 }
 
 // Too small a rectangle was no more than a click that went astray.
-void VisorFunciones::AcabaEncuadre() {
+void VisorFunciones::Encuadra(const QRectF& marco) {
     constexpr qreal Menor = 5;
-    const QRectF marco = std::exchange(encuadre_, std::nullopt)->normalized();
-    update();
     if (marco.width() >= Menor && marco.height() >= Menor)
         Q_EMIT encuadra(DevLógico(marco.topLeft()), DevLógico(marco.bottomRight()));
 }

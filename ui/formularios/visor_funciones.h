@@ -57,7 +57,9 @@ private:
     QPixmap DibujaCapa(const Cuadro& cuadro) const;
     void DibujaInvitación(QPainter& pintor) const;
     void DibujaEncuadre(QPainter& pintor) const;
-    void AcabaEncuadre();
+    std::optional<QRectF> DevEncuadre() const;
+    void Encuadra(const QRectF& marco);
+    void Suelta();
 
     Cuadro cuadro_;
     Marcador marcador_;

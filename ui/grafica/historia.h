@@ -22,6 +22,7 @@ public:
     // The view before the last step, which is taken out. The point X goes back with the window
     // where it has moved with it; one that was put somewhere since stays there.
     std::optional<Vista::Estado> Saca(const Vista::Estado& actual);
+    bool EstáVacía() const { return pasos_.empty(); }
 
 private:
     static constexpr std::size_t Máximo = 100;
