@@ -78,7 +78,7 @@ TEST_F(MenúEdición, CopiarTodoLlevaLasFuncionesYLaVentana) {
     Pulsa("ZoomEjeX_3");
     Pon("X^2-4,-5,5\n\n'Solución en X=-2");
     Pulsa("CopiarTodo");
-    EXPECT_EQ(DevPegado(), "'f0(X)=X^2-4\n'f2(X)=SIN(X) (sin dibujar)\n"
+    EXPECT_EQ(DevPegado(), "'f0(X)=X^2-4\n'f2(X)=SIN(X), sin dibujar\n"
                            "'Ventana: X de -5 a 5, Y de -10 a 10\n"
                            "X^2-4,-5,5\n\n'Solución en X=-2");
     txtSalida.clear();
@@ -206,6 +206,25 @@ TEST_F(Búsqueda, EnterEjecutaLaMarcada) {
     QTest::keyClick(&txtSalida, Qt::Key_K, Qt::ControlModifier);
     EXPECT_EQ(caja.text(), QString());
     EXPECT_EQ(DevVisibles().size(), 24U);
+}
+
+// "max" and Enter is a maximum of a function, and the greatest divisor of numbers.
+TEST_F(Búsqueda, SeMarcaLaPrimeraALaQueConvienenLosDatos) {
+    const auto marcada = [&](const char* datos, const char* parte) {
+        diálogo.reject();
+        txtSalida.setPlainText(QString::fromUtf8(datos));
+        QTest::keyClick(&txtSalida, Qt::Key_K, Qt::ControlModifier);
+        QTest::keyClicks(&caja, QString::fromUtf8(parte));
+        return lista.currentItem()->text(0).toStdString();
+    };
+    EXPECT_EQ(marcada("X^3-3*X,-5,5", "max"), "Hallar máximos");
+    EXPECT_EQ(marcada("12,18", "max"), "Hallar máximo común divisor");
+    EXPECT_EQ(marcada("X^2,2", "tangente"), "Hallar la ecuación de la tangente a un punto");
+    EXPECT_EQ(marcada("X^2,2", "primos"), "Descomponer en factores primos"); // none
+    EXPECT_EQ(marcada("", "max"), "Hallar máximo común divisor");
+    EXPECT_EQ(marcada("X^2-4,-5,5", ""), "Hallar soluciones");
+    QTest::keyClick(&caja, Qt::Key_Return);
+    EXPECT_EQ(DevTexto(), "X^2-4,-5,5\n\n'Solución en X=-2\n'Solución en X= 2\n");
 }
 
 TEST_F(Búsqueda, EscapeNoHaceNada) {

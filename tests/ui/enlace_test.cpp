@@ -208,6 +208,42 @@ TEST_F(Enlace, ElPuntoXVaADondeDiceElResultado) {
     EXPECT_EQ(DevExtremos(), (std::vector<std::string>{"40", "20", "-40", "-60"}));
     QTest::mouseClick(txtSalida.viewport(), Qt::LeftButton, Qt::NoModifier, DevLugar(0));
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("30"));
+    ConCtrl(0);
+    QTest::mouseClick(txtSalida.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      DevLugar(3) + QPoint(0, 40)); // the empty paper
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("2"));
+}
+
+// Not the line in which the cursor stood before.
+TEST_F(Enlace, ElMenúDeUnaLíneaTrataDeEsaLínea) {
+    Pon("12,18\nX^3\nX^4");
+    txtSalida.moveCursor(QTextCursor::End);
+    QMenu& menú = AbreMenú(1);
+    menú.setActiveAction(&Busca<QAction>("ComentarLíneas"));
+    QTest::keyClick(&menú, Qt::Key_Return);
+    EXPECT_EQ(DevTexto(), "12,18\n'X^3\nX^4");
+    txtSalida.selectAll();
+    AbreMenú(0).close(); // a part of what is selected
+    EXPECT_EQ(txtSalida.textCursor().selectedText().size(), 14);
+}
+
+TEST_F(Enlace, LaPreguntaPorLaCajaCabeEnLaPantalla) {
+    const QString larga = QStringLiteral("X^3-3*X^2-").repeated(80) + u'X';
+    Pon(larga.toLatin1().constData());
+    for (int i = 0; i < 4; ++i)
+        Elige(AbreMenú(0), "Dibujar");
+    EXPECT_EQ(Busca<QLineEdit>("txtfx_0").cursorPosition(), 0); // read from its beginning
+    Pon("X^2");
+    EXPECT_EQ(ConDiálogos([this] { Elige(AbreMenú(0), "Dibujar"); },
+                          [](QWidget& diálogo) {
+                              EXPECT_LT(diálogo.width(), 640);
+                              auto* lista = diálogo.findChild<QComboBox*>();
+                              lista->setCurrentIndex(2);
+                              dynamic_cast<QDialog&>(diálogo).accept();
+                          }),
+              1);
+    EXPECT_EQ(DevFunción(2), "X^2");
+    EXPECT_EQ(DevFunción(1), larga.toStdString());
 }
 
 TEST_F(Enlace, ElMenúDeLaHojaTieneLasÓrdenesQueValen) {

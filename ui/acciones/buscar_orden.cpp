@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quiralto {
 namespace {
@@ -92,27 +93,32 @@ void BuscarOrden::CreaLista() {
         lista_->resizeColumnToContents(columna);
 }
 
-void BuscarOrden::Abre() {
+void BuscarOrden::Abre(std::vector<std::size_t> posibles) {
+    posibles_ = std::move(posibles);
     txtBuscarOrden_->clear();
     Filtra({});
     open();
     txtBuscarOrden_->setFocus();
 }
 
-// Every word that is typed is a part of a name. The first row is marked, so that Enter suffices.
+// Every word that is typed is a part of a name. A row is marked, so that Enter suffices.
 void BuscarOrden::Filtra(const QString& texto) {
     const QStringList palabras = DevPlano(texto).split(u' ', Qt::SkipEmptyParts);
     const std::span<const Orden> órdenes = DevÓrdenes();
     QTreeWidgetItem* primera = nullptr;
-    for (int i = 0; i < lista_->topLevelItemCount(); ++i) {
-        const QString nombres = DevNombres(órdenes[static_cast<std::size_t>(i)]);
+    QTreeWidgetItem* primeraPosible = nullptr;
+    for (std::size_t i = 0; i < órdenes.size(); ++i) {
+        const QString nombres = DevNombres(órdenes[i]);
         const bool vale = std::ranges::all_of(
             palabras, [&](const QString& palabra) { return nombres.contains(palabra); });
-        lista_->topLevelItem(i)->setHidden(!vale);
+        QTreeWidgetItem* const fila = lista_->topLevelItem(static_cast<int>(i));
+        fila->setHidden(!vale);
         if (vale && primera == nullptr)
-            primera = lista_->topLevelItem(i);
+            primera = fila;
+        if (vale && primeraPosible == nullptr && std::ranges::find(posibles_, i) != posibles_.end())
+            primeraPosible = fila;
     }
-    lista_->setCurrentItem(primera);
+    lista_->setCurrentItem(primeraPosible == nullptr ? primera : primeraPosible);
     if (auto* elegir = findChild<QPushButton*>(QStringLiteral("cmdEjecutarOrden")))
         elegir->setEnabled(primera != nullptr);
 }

@@ -7,7 +7,9 @@
 #include <QLineEdit>
 #include <QTreeWidget>
 
+#include <cstddef>
 #include <span>
+#include <vector>
 
 namespace quiralto {
 
@@ -16,8 +18,9 @@ public:
     // The actions of the commands, in the order of their table; they outlive the dialog.
     BuscarOrden(std::span<QAction* const> órdenes, QWidget* padre);
 
-    // Opens it with no text and all commands. The chosen one is triggered once it is closed.
-    void Abre();
+    // Opens it with no text and all commands; the first that is shown is marked, or rather the
+    // first of those that the data suit. The chosen one is triggered once it is closed.
+    void Abre(std::vector<std::size_t> posibles);
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* suceso) override;
@@ -28,6 +31,7 @@ private:
     void Elige();
 
     std::span<QAction* const> órdenes_;
+    std::vector<std::size_t> posibles_; // those that the data suit
     QLineEdit* txtBuscarOrden_;
     QTreeWidget* lista_;
 };

@@ -10,7 +10,6 @@
 
 #include <QInputDialog>
 
-#include <exception>
 #include <optional>
 #include <utility>
 
@@ -75,12 +74,8 @@ void EnlaceHoja::AbreMenúHoja(QMenu& menú, const QString& línea) {
 
 // Those that take the data as they are, under the titles of their menus.
 void EnlaceHoja::AñadeÓrdenes(QMenu& menú, QAction* antes) {
-    std::vector<std::size_t> posibles;
-    try {
-        posibles = DevÓrdenesPosibles(contexto_, partes_.hoja.DevTexto());
-    } catch (const std::exception&) { // data that no command can read
-        posibles.clear();
-    }
+    const std::vector<std::size_t> posibles =
+        DevÓrdenesPosibles(contexto_, partes_.hoja.DevTexto());
     const std::span<const Orden> órdenes = DevÓrdenes();
     for (const std::string_view familia : DevFamilias()) {
         bool titulada = false;
@@ -134,12 +129,16 @@ void EnlaceHoja::Dibuja(const QString& función) {
         partes_.control.PonFunción(caja, función);
 }
 
-// Which function is to go; -1: none.
+// Which function is to go; -1: none. A long one is shortened, or the dialog would be as wide.
 int EnlaceHoja::PreguntaCaja() const {
+    constexpr qsizetype Largo = 48;
     QStringList funciones;
-    for (int i = 0; i < CantidadFunciones; ++i)
-        funciones +=
-            QStringLiteral("f%1(X)=").arg(i) + DevQString(partes_.control.DevFunciones()[i].texto);
+    for (int i = 0; i < CantidadFunciones; ++i) {
+        QString texto = DevQString(partes_.control.DevFunciones()[i].texto);
+        if (texto.size() > Largo)
+            texto = texto.left(Largo) + u'…';
+        funciones += QStringLiteral("f%1(X)=").arg(i) + texto;
+    }
     QInputDialog pregunta(partes_.hoja.window());
     pregunta.setObjectName(QStringLiteral("frmElegirCaja"));
     pregunta.setWindowTitle(QStringLiteral("Dibujar"));

@@ -264,7 +264,7 @@ void FrmGráficas::CopiarTodo_Click() {
 void FrmGráficas::BuscarOrden_Click() {
     if (buscarOrden_ == nullptr)
         buscarOrden_ = new BuscarOrden(acciones_.órdenes, this);
-    buscarOrden_->Abre();
+    buscarOrden_->Abre(DevÓrdenesPosibles(contexto_, txtSalida_->DevTexto()));
 }
 
 void FrmGráficas::AlAcabarOrden() {

@@ -70,7 +70,7 @@ std::string DevCabecera(const FuncionesGráficas& funciones, const Ventana& vent
         const FunciónGráfica& función = funciones[i];
         if (función.estado == EstadoTexto::Fórmula)
             cabecera += "'f" + std::to_string(i) + "(X)=" + función.texto +
-                        (función.encendida ? "\r\n" : " (sin dibujar)\r\n");
+                        (función.encendida ? "\r\n" : ", sin dibujar\r\n");
     }
     return cabecera + "'Ventana: X de " + TextoNúmero(ventana.XMín) + " a " +
            TextoNúmero(ventana.XMáx) + ", Y de " + TextoNúmero(ventana.YMín) + " a " +

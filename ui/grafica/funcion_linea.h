@@ -10,7 +10,8 @@
 namespace quiralto {
 
 // The function of a line of data, or of a result or comment (what stands behind its last colon,
-// equals sign or apostrophe), up to the first comma: a formula with an X, as Sintaxis leaves it.
+// equals sign or apostrophe), up to the first comma: a formula with an X, as Sintaxis leaves it, in
+// small letters or capitals.
 // Shows nothing.
 std::optional<std::string> DevFunciónDeLínea(const Contexto& contexto, std::string_view línea);
 

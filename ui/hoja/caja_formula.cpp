@@ -104,6 +104,8 @@ void CajaFormula::Reescribe(const QString& texto) {
     const QSignalBlocker callada(this);
     selectAll();
     insert(texto);
+    if (!hasFocus())
+        setCursorPosition(0); // a long text is seen from its beginning
 }
 
 bool CajaFormula::OfreceNombres() const {

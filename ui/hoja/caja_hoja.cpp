@@ -232,10 +232,14 @@ void CajaHoja::keyPressEvent(QKeyEvent* suceso) {
     suceso->accept();
 }
 
-// The line under the pointer, or the cursor's where the menu's key was pressed.
+// The line under the pointer, or the cursor's where the menu's key was pressed. The cursor goes to
+// that line, so that all of the menu is about it; unless it is a part of what is selected.
 void CajaHoja::contextMenuEvent(QContextMenuEvent* suceso) {
     const bool conTecla = suceso->reason() == QContextMenuEvent::Keyboard;
     const QTextCursor lugar = conTecla ? textCursor() : cursorForPosition(suceso->pos());
+    if (const QTextCursor cursor = textCursor();
+        lugar.position() < cursor.selectionStart() || lugar.position() > cursor.selectionEnd())
+        setTextCursor(lugar);
     QMenu* const menú = createStandardContextMenu(suceso->pos());
     menú->setObjectName(QStringLiteral("MenúContextualHoja"));
     menú->setAttribute(Qt::WA_DeleteOnClose);
@@ -246,9 +250,13 @@ void CajaHoja::contextMenuEvent(QContextMenuEvent* suceso) {
 
 void CajaHoja::mouseReleaseEvent(QMouseEvent* suceso) {
     QPlainTextEdit::mouseReleaseEvent(suceso);
-    if (suceso->button() == Qt::LeftButton && suceso->modifiers() == Qt::ControlModifier &&
-        !textCursor().hasSelection())
-        Q_EMIT pulsadaConCtrl(cursorForPosition(suceso->position().toPoint()).block().text());
+    if (suceso->button() != Qt::LeftButton || suceso->modifiers() != Qt::ControlModifier ||
+        textCursor().hasSelection())
+        return;
+    const QTextBlock línea = cursorForPosition(suceso->position().toPoint()).block();
+    const qreal pie = blockBoundingGeometry(línea).translated(contentOffset()).bottom();
+    if (suceso->position().y() < pie) // not on the empty paper below the last one
+        Q_EMIT pulsadaConCtrl(línea.text());
 }
 
 void CajaHoja::inputMethodEvent(QInputMethodEvent* suceso) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <set>
 
 namespace quiralto {
@@ -168,9 +169,13 @@ std::vector<std::size_t> DevÓrdenesPosibles(Contexto& contexto, std::string_vie
         return posibles;
     const std::vector<std::string> líneas = LeeTextBox(hoja);
     const std::span<const Orden> órdenes = DevÓrdenes();
-    for (std::size_t i = 0; i < órdenes.size(); ++i)
-        if (!líneas.empty() && !LeeDatos(contexto, órdenes[i].forma, líneas).rechazo)
-            posibles.push_back(i);
+    try {
+        for (std::size_t i = 0; i < órdenes.size(); ++i)
+            if (!líneas.empty() && !LeeDatos(contexto, órdenes[i].forma, líneas).rechazo)
+                posibles.push_back(i);
+    } catch (const std::exception&) { // data that no command can read
+        posibles.clear();
+    }
     return posibles;
 }
 

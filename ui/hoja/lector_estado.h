@@ -24,7 +24,7 @@ struct LecturaHoja {
 LecturaHoja LeeHoja(Contexto& contexto, std::string_view hoja);
 
 // The commands whose form the data have, by their places in the table; none for a worksheet that is
-// not read to its end.
+// not read to its end, or not at all.
 std::vector<std::size_t> DevÓrdenesPosibles(Contexto& contexto, std::string_view hoja);
 
 } // namespace quiralto
