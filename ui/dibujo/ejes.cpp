@@ -8,7 +8,6 @@
 #include <QStaticText>
 
 #include <algorithm>
-#include <cmath>
 
 namespace quiralto {
 namespace {
@@ -84,14 +83,14 @@ void Ejes::DibujaPuntas() {
     pintor_.setBrush(ColorEje);
     if (EstáEnVista(ejeX_, área.top(), área.bottom())) {
         DibujaHorizontal(pintor_, lienzo_, ejeX_, ColorEje);
-        const qreal y = std::floor(ejeX_) + g / 2;
+        const qreal y = DevBorde(lienzo_, ejeX_) + g / 2;
         pintor_.drawPolygon(QPolygonF{{área.right(), y},
                                       {área.right() - largo, y - mitad},
                                       {área.right() - largo, y + mitad}});
     }
     if (EstáEnVista(ejeY_, área.left(), área.right())) {
         DibujaVertical(pintor_, lienzo_, ejeY_, ColorEje);
-        const qreal x = std::floor(ejeY_) + g / 2;
+        const qreal x = DevBorde(lienzo_, ejeY_) + g / 2;
         pintor_.drawPolygon(QPolygonF{
             {x, área.top()}, {x - mitad, área.top() + largo}, {x + mitad, área.top() + largo}});
     }
@@ -102,14 +101,14 @@ void Ejes::DibujaPuntas() {
 void Ejes::DibujaMarcas() {
     const qreal g = lienzo_.grosor;
     const QRectF& área = lienzo_.área;
-    const qreal alto = std::floor(std::clamp(ejeX_, área.top(), área.bottom() - g));
-    const qreal largo = std::floor(std::clamp(ejeY_, área.left(), área.right() - g));
+    const qreal alto = std::clamp(DevBorde(lienzo_, ejeX_), área.top(), área.bottom() - g);
+    const qreal largo = std::clamp(DevBorde(lienzo_, ejeY_), área.left(), área.right() - g);
     for (const Marca& marca : enX_.mayores) {
-        const qreal x = std::floor(DevLugarX(lienzo_, ventana_, marca.valor));
+        const qreal x = DevBorde(lienzo_, DevLugarX(lienzo_, ventana_, marca.valor));
         pintor_.fillRect(QRectF(x, alto - 3 * g, g, 7 * g), ColorEje);
     }
     for (const Marca& marca : enY_.mayores) {
-        const qreal y = std::floor(DevLugarY(lienzo_, ventana_, marca.valor));
+        const qreal y = DevBorde(lienzo_, DevLugarY(lienzo_, ventana_, marca.valor));
         pintor_.fillRect(QRectF(largo - 3 * g, y, 7 * g, g), ColorEje);
     }
 }

@@ -38,14 +38,18 @@ qreal DevLugarY(const Lienzo& lienzo, const Ventana& ventana, double y) {
     return lienzo.DevLugar(0, DevYlógico(ventana, y)).y();
 }
 
+qreal DevBorde(const Lienzo& lienzo, qreal lugar) {
+    return std::floor(lugar - (lienzo.grosor - 1) / 2);
+}
+
 void DibujaVertical(QPainter& pintor, const Lienzo& lienzo, qreal x, const QColor& color) {
-    pintor.fillRect(QRectF(std::floor(x), lienzo.área.top(), lienzo.grosor, lienzo.área.height()),
-                    color);
+    pintor.fillRect(
+        QRectF(DevBorde(lienzo, x), lienzo.área.top(), lienzo.grosor, lienzo.área.height()), color);
 }
 
 void DibujaHorizontal(QPainter& pintor, const Lienzo& lienzo, qreal y, const QColor& color) {
-    pintor.fillRect(QRectF(lienzo.área.left(), std::floor(y), lienzo.área.width(), lienzo.grosor),
-                    color);
+    pintor.fillRect(
+        QRectF(lienzo.área.left(), DevBorde(lienzo, y), lienzo.área.width(), lienzo.grosor), color);
 }
 
 bool EsRáster(const QPainter& pintor) {

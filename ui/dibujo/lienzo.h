@@ -26,6 +26,10 @@ QFont DevFuenteRótulos(const QFont& fuente, qreal grosor);
 qreal DevLugarX(const Lienzo& lienzo, const Ventana& ventana, double x);
 qreal DevLugarY(const Lienzo& lienzo, const Ventana& ventana, double y);
 
+// Where a line begins that is `grosor` wide, covers whole units and has its middle at that place,
+// as near as can be.
+qreal DevBorde(const Lienzo& lienzo, qreal lugar);
+
 // A line across the whole area, over exactly `grosor` units.
 void DibujaVertical(QPainter& pintor, const Lienzo& lienzo, qreal x, const QColor& color);
 void DibujaHorizontal(QPainter& pintor, const Lienzo& lienzo, qreal y, const QColor& color);

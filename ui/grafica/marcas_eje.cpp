@@ -54,6 +54,15 @@ double DevValorDecimal(long long n, const Paso& paso) {
     return Val(std::to_string(n * paso.cifra) + "E" + std::to_string(paso.exponente));
 }
 
+// Which multiple is the first one that does not lie before the range; of a quotient that rounding
+// has put a hair beside a whole number, the multiples themselves tell.
+long long DevPrimera(double mínimo, const Paso& paso) {
+    const auto n = static_cast<long long>(std::ceil(mínimo / paso.Valor()));
+    if (DevValorDecimal(n - 1, paso) >= mínimo)
+        return n - 1;
+    return DevValorDecimal(n, paso) < mínimo ? n + 1 : n;
+}
+
 // The number as the general form writes it, in pieces.
 struct Piezas {
     bool negativo = false;
@@ -136,8 +145,8 @@ MarcasEje DevMarcas(double mínimo, double máximo, double píxeles) {
     MarcasEje marcas;
     // A usable range is never so far from 0 that these would not fit.
     const auto recorre = [&](const Paso& este, auto pon) {
-        const auto última = static_cast<long long>(std::floor(máximo / este.Valor()));
-        for (auto n = static_cast<long long>(std::ceil(mínimo / este.Valor())); n <= última; ++n)
+        const long long última = -DevPrimera(-máximo, este);
+        for (long long n = DevPrimera(mínimo, este); n <= última; ++n)
             pon(n);
     };
     recorre(paso, [&](long long n) {

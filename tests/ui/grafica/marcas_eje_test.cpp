@@ -66,6 +66,67 @@ TEST(MarcasEje, LasLíneasFinasPartenElPasoEnCuatroOCinco) {
     }
 }
 
+// A mark on the very end of the view is in it, and one beyond it is not, however the quotients of
+// range and step are rounded (0.3/0.1 is less than 3).
+TEST(MarcasEje, LaDelExtremoEstáYLaSiguienteNo) {
+    const struct {
+        double extremo;
+        int pasos; // from 0 to it
+        const char* texto;
+        int partes; // of a step
+    } casos[] = {
+        {10, 5, "10", 4},       {0.6, 6, "0.6", 5},       {0.7, 7, "0.7", 5},
+        {0.3, 6, "0.3", 5},     {1.4, 7, "1.4", 4},       {0.0006, 6, "0.0006", 5},
+        {6e-8, 6, "6E−8", 5},   {8e23, 8, "8E23", 5},     {35, 7, "35", 5},
+        {1e300, 5, "1E300", 4}, {2.5e-6, 5, "2.5E−6", 5},
+    };
+    for (const auto& caso : casos) {
+        const double dentro = std::nextafter(caso.extremo, 2 * caso.extremo);
+        const double fuera = std::nextafter(caso.extremo, 0);
+        const std::string negativo = std::string("−") + caso.texto;
+        const double píxeles = 2.0 * 84 * caso.pasos;
+        const auto mayores = static_cast<std::size_t>(2 * caso.pasos + 1);
+        const auto menores = static_cast<std::size_t>(2 * caso.pasos * caso.partes + 1);
+        for (const double extremo : {caso.extremo, dentro}) {
+            const MarcasEje marcas = DevMarcas(-extremo, extremo, píxeles);
+            EXPECT_EQ(marcas.mayores.size(), mayores) << caso.texto;
+            EXPECT_EQ(marcas.mayores.front().texto, negativo);
+            EXPECT_EQ(marcas.mayores.front().valor, -caso.extremo);
+            EXPECT_EQ(marcas.mayores.back().texto, caso.texto);
+            EXPECT_EQ(marcas.mayores.back().valor, caso.extremo);
+            EXPECT_EQ(marcas.menores.size(), menores) << caso.texto;
+            EXPECT_DOUBLE_EQ(marcas.menores.front(), -caso.extremo);
+            EXPECT_DOUBLE_EQ(marcas.menores.back(), caso.extremo);
+        }
+        const MarcasEje menos = DevMarcas(-fuera, fuera, píxeles);
+        EXPECT_EQ(menos.mayores.size(), mayores - 2) << caso.texto;
+        EXPECT_EQ(menos.menores.size(), menores - 2) << caso.texto;
+        EXPECT_LT(menos.mayores.back().valor, fuera);
+        EXPECT_LT(menos.menores.back(), fuera);
+    }
+}
+
+// Ends that are decimal multiples of the step, far from 0 as well.
+TEST(MarcasEje, LosExtremosRedondosTienenSuMarca) {
+    const std::uint32_t semilla = 8;
+    std::mt19937 azar(semilla);
+    std::uniform_int_distribution<long long> lugar(-100000, 100000);
+    std::uniform_int_distribution<int> exponente(-30, 30);
+    for (int vez = 0; vez < 20000; ++vez) {
+        const long long n = lugar(azar);
+        const std::string potencia = "E" + std::to_string(exponente(azar));
+        const double mínimo = std::stod(std::to_string(n) + potencia);
+        const double máximo = std::stod(std::to_string(n + 10) + potencia);
+        const MarcasEje marcas = DevMarcas(mínimo, máximo, 1000); // a step of 1, 100 pixels apart
+        ASSERT_EQ(marcas.mayores.size(), 11U) << "seed " << semilla << " at " << vez;
+        EXPECT_EQ(marcas.mayores.front().valor, mínimo);
+        EXPECT_EQ(marcas.mayores.back().valor, máximo);
+        EXPECT_EQ(marcas.menores.size(), 51U);
+        for (std::size_t i = 0; i < marcas.mayores.size(); ++i)
+            EXPECT_EQ(marcas.mayores[i].número, n + static_cast<long long>(i));
+    }
+}
+
 double ValorLeído(std::string texto) {
     for (std::size_t i = texto.find("−"); i != std::string::npos; i = texto.find("−"))
         texto.replace(i, std::string("−").size(), "-");
