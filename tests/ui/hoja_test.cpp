@@ -2,6 +2,7 @@
 
 #include "tests/ui/paletas.h"
 #include "tests/ui/ventana_de_prueba.h"
+#include "ui/acciones/acciones.h"
 #include "ui/dibujo/contraste.h"
 
 #include <QAccessible>
@@ -110,7 +111,7 @@ TEST_F(HojaEnVentana, CadaOrdenResuelveSuEjemplo) {
     for (const Orden& orden : DevÓrdenes()) {
         QAction* entrada = nullptr;
         for (QAction* acción : formulario.findChildren<QAction*>())
-            if (acción->statusTip().endsWith(DevQString(orden.ejemplo)) &&
+            if (acción->statusTip().endsWith(DevEjemplo(orden)) &&
                 acción->text() == DevQString(orden.título))
                 entrada = acción;
         ASSERT_NE(entrada, nullptr) << orden.título;

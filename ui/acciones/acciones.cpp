@@ -206,9 +206,13 @@ Acciones CreaAcciones(QObject& padre) {
     return a;
 }
 
+QString DevEjemplo(const Orden& orden) {
+    return DevQString(orden.ejemplo).replace(QStringLiteral("\r\n"), QStringLiteral(" · "));
+}
+
 QString DevExplicación(const Orden& orden, const QString& hay) {
     return QStringLiteral("Espera %1 · Hay: %2 · Ejemplo: %3")
-        .arg(DevQString(orden.forma.texto), hay, DevQString(orden.ejemplo));
+        .arg(DevQString(orden.forma.texto), hay, DevEjemplo(orden));
 }
 
 } // namespace quiralto

@@ -60,6 +60,9 @@ struct Acciones {
 // (ZoomEjeX_0), the caption in one word for the commands (HallarPuntosInflexión).
 Acciones CreaAcciones(QObject& padre);
 
+// The command's example in one line.
+QString DevEjemplo(const Orden& orden);
+
 // What a command expects, what there is, and an example: the tip of its entry.
 QString DevExplicación(const Orden& orden, const QString& hay);
 

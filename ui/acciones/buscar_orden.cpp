@@ -83,9 +83,7 @@ void BuscarOrden::CreaLista() {
         auto* fila = new QTreeWidgetItem(lista_);
         fila->setText(ColumnaTítulo, DevQString(orden.título));
         fila->setText(ColumnaDatos, DevQString(orden.forma.texto));
-        fila->setText(
-            ColumnaEjemplo,
-            DevQString(orden.ejemplo).replace(QStringLiteral("\r\n"), QStringLiteral(" · ")));
+        fila->setText(ColumnaEjemplo, DevEjemplo(orden));
         fila->setToolTip(ColumnaTítulo, DevQString(orden.menú));
     }
     lista_->header()->setStretchLastSection(true);
