@@ -30,6 +30,8 @@ TEST(LectorEstado, DiceLoQueHayComoLoLeeríaUnaOrden) {
         {"X(1)+X(2)+X(3)=3\nX(1)-X(2)=1\nX(3)=2", "3 ecuaciones, 3 incógnitas"},
         {"X(7)=3", "1 ecuación, 1 incógnita"},
         {"X^2\nX^3", "2 líneas de datos"},
+        {"(A+B)^2", "Varias variables: (A+B)^2"},
+        {"X^3-1,X^2-1", "2 funciones: X^3-1 · X^2-1"},
         {"X^2 ,3", "f(X)=X^2 · punto: 3 · Error de sintáxis: ' ' (sobra un blanco)"},
         {"X^2-4,5,-5",
          "f(X)=X^2-4 · extremo 1: 5 · extremo 2: -5 · Se esperaba que el extremo superior fuera "

@@ -26,24 +26,64 @@ TEST(Llamada, LasOpcionesDelToolkitPasan) {
              {"-qwindowgeometry", "800x600+1+1"},
          })
         EXPECT_FALSE(Responde(palabras).has_value());
+    // with a value behind them, or none
+    for (const char* opción :
+         {"-platform", "-platformpluginpath", "-platformtheme", "-plugin", "-style", "-stylesheet",
+          "-qwindowgeometry", "-geometry", "-qwindowicon", "-icon", "-qwindowtitle", "-title",
+          "-session", "-display", "-fontengine", "-qmljsdebugger"}) {
+        EXPECT_FALSE(Responde({opción, "valor"}).has_value()) << opción;
+        const auto falta = Responde({opción});
+        ASSERT_TRUE(falta.has_value()) << opción;
+        EXPECT_EQ(falta->texto, "quiralto: falta el valor de «" + std::string(opción) +
+                                    "»; vea quiralto --help\n");
+        EXPECT_EQ(falta->estado, 2);
+    }
+    for (const char* opción : {"-reverse", "-widgetcount", "-nograb", "-dograb", "-sync"}) {
+        EXPECT_FALSE(Responde({opción}).has_value()) << opción;
+        EXPECT_TRUE(Responde({opción, "valor"}).has_value()) << opción;
+    }
 }
 
 TEST(Llamada, LoQueNoSeEntiendeEsUnaLíneaYEstado2) {
-    for (const std::vector<const char*>& palabras : std::vector<std::vector<const char*>>{
-             {"hoja.txt"},
-             {"--orden"},
-             {"-platform", "offscreen", "otra"},
-             {"-platform"},
-             {""},
-             {"-"},
-             {"--"},
-         }) {
-        const auto respuesta = Responde(palabras);
+    const struct {
+        std::vector<const char*> palabras;
+        const char* texto;
+    } casos[] = {
+        {{"hoja.txt"}, "quiralto: no se entiende «hoja.txt»; vea quiralto --help\n"},
+        {{"--orden"}, "quiralto: no se entiende «--orden»; vea quiralto --help\n"},
+        {{"-platform", "offscreen", "otra"},
+         "quiralto: no se entiende «otra»; vea quiralto --help\n"},
+        {{"-platform"}, "quiralto: falta el valor de «-platform»; vea quiralto --help\n"},
+        {{""}, "quiralto: no se entiende «»; vea quiralto --help\n"},
+        {{"-"}, "quiralto: no se entiende «-»; vea quiralto --help\n"},
+        {{"--"}, "quiralto: no se entiende «--»; vea quiralto --help\n"},
+    };
+    for (const auto& caso : casos) {
+        const auto respuesta = Responde(caso.palabras);
         ASSERT_TRUE(respuesta.has_value());
         EXPECT_EQ(respuesta->estado, 2);
-        EXPECT_EQ(std::ranges::count(respuesta->texto, '\n'), 1) << respuesta->texto;
-        EXPECT_TRUE(respuesta->texto.ends_with("vea quiralto --help\n"));
+        EXPECT_EQ(respuesta->texto, caso.texto);
     }
+}
+
+TEST(Llamada, LaAyudaDiceCómoSeLlama) {
+    for (const char* opción : {"-h", "--help", "--ayuda"}) {
+        const auto respuesta = Responde({opción});
+        ASSERT_TRUE(respuesta.has_value());
+        EXPECT_EQ(respuesta->estado, 0);
+        EXPECT_EQ(respuesta->texto,
+                  R"(Uso: quiralto [OPCIONES]
+Abre el taller de matemáticas Quiralto.
+
+  -h, --help, --ayuda   muestra esta ayuda
+  -V, --version         muestra la versión
+
+También se admiten las opciones del sistema de ventanas, como
+-platform, -style o -display. Sin ventana: quiralto-cli.
+)");
+    }
+    for (const char* opción : {"-V", "--version", "--versión"})
+        EXPECT_EQ(Responde({opción})->texto, "quiralto " + std::string(Versión) + "\n");
 }
 
 // The program itself, with no display or one that nobody serves, and no session either, of which
