@@ -115,6 +115,12 @@ TEST_F(Teclas, LoPegadoPierdeSusBlancosFueraDeLosComentarios) {
         const char* queda;
     } casos[] = {
         {"x ^ 2 , -5,\t5", "X^2,-5,5"},
+        {"1\t2.5\t-3", "1,2.5,-3"}, // a row of a table
+        {"1\t\t3 ' sin y", "1,,3' sin y"},
+        {"\t1 \t 2\t", "1,2"},
+        {"x\t+\t1,\t(\tx\t)", "X+1,(X)"},
+        {"'1\t2", "'1\t2"},
+        {"x^2\u2028x^3\u2029x^4\vx^5\r\nx^6\rx^7", "X^2\nX^3\nX^4\nX^5\nX^6\nX^7"},
         {" 2*x + 1 ' dos y uno ", "2*X+1' dos y uno "},
         {"' todo esto se queda ", "' todo esto se queda "},
         {"Simplificación :(X+1)/(X-1)", "Simplificación :(X+1)/(X-1)"},

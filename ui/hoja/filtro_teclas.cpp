@@ -40,21 +40,38 @@ QString EnMayúsculas(QStringView texto) {
 
 namespace {
 
+// The columns of a table become fields: a tabulator is a comma, unless there is nothing to be
+// parted on one of its sides.
+QString ConComas(QStringView datos) {
+    const auto hayAlLado = [&](qsizetype tabulador, int sentido, QStringView sinParte) {
+        qsizetype i = tabulador + sentido;
+        while (i >= 0 && i < datos.size() && datos[i] == u' ')
+            i += sentido;
+        return i >= 0 && i < datos.size() && !sinParte.contains(datos[i]);
+    };
+    QString texto = datos.toString();
+    for (qsizetype i = 0; i < datos.size(); ++i)
+        if (datos[i] == u'\t' && hayAlLado(i, -1, u",(+-*/^=") && hayAlLado(i, 1, u",)+*/^="))
+            texto[i] = u',';
+    return texto;
+}
+
 // One line without its line break, behind `delante`.
 QString ConvierteLínea(QStringView delante, QStringView línea) {
     if (delante.contains(u'\'') || EsDelPrograma(DevUtf8(delante.toString() + línea.toString())))
         return línea.toString();
     const qsizetype apóstrofo = línea.indexOf(u'\'');
     if (apóstrofo < 0)
-        return EnMayúsculas(línea);
-    return EnMayúsculas(línea.left(apóstrofo)) + línea.mid(apóstrofo).toString();
+        return EnMayúsculas(ConComas(línea));
+    return EnMayúsculas(ConComas(línea.left(apóstrofo))) + línea.mid(apóstrofo).toString();
 }
 
 } // namespace
 
 QString ConviertePegado(QStringView delante, const QString& texto) {
     const auto esSalto = [](QChar c) {
-        return c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator;
+        return c == u'\n' || c == u'\r' || c == u'\v' || c == u'\f' ||
+               c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
     };
     QString convertido;
     convertido.reserve(texto.size());
@@ -65,7 +82,7 @@ QString ConviertePegado(QStringView delante, const QString& texto) {
         convertido += ConvierteLínea(comienzo == 0 ? delante : QStringView(),
                                      QStringView(texto).mid(comienzo, i - comienzo));
         if (i < texto.size())
-            convertido += texto[i];
+            convertido += texto[i] == u'\r' ? texto[i] : QChar(u'\n');
         comienzo = i + 1;
     }
     return convertido;

@@ -22,8 +22,9 @@ QString FiltraTecleado(const QString& texto, const Pitido& pitido);
 QString EnMayúsculas(QStringView texto);
 
 // Text that comes from the clipboard or is dropped behind `delante` (the part of its line before
-// the cursor): every line is upper-cased and loses its blanks up to its first apostrophe; comments
-// and the lines that the program itself has written stay.
+// the cursor): every line is upper-cased and loses its blanks up to its first apostrophe, where a
+// tabulator between two columns becomes a comma; comments and the lines that the program itself has
+// written stay.
 QString ConviertePegado(QStringView delante, const QString& texto);
 
 // Whether the key would write characters into a text box, rather than move, edit or command.
