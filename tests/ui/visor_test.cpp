@@ -3,6 +3,7 @@
 #include "tests/ui/ventana_de_prueba.h"
 #include "ui/dibujo/colores.h"
 #include "ui/dibujo/grafica.h"
+#include "ui/formularios/copia_grafica.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -317,6 +318,19 @@ TEST_F(Visor, LasCoordenadasNuncaQuedanAtrasadas) {
     QEvent sale(QEvent::Leave);
     QApplication::sendEvent(&visor, &sale);
     EXPECT_EQ(coordenadas.text(), QString());
+}
+
+// Lines are whole pixels wide; letters are as large as the others of the window.
+TEST_F(Visor, LosRótulosCrecenConLaEscalaAunqueNoSeaEntera) {
+    Escena escena;
+    escena.leyenda = {{0, "f0(X)=X"}, {1, "f1(X)=2"}, {2, "f2(X)=3"}};
+    const QSize tamaño(400, 300);
+    const auto alto = [&](qreal escala) {
+        const auto copia = DevCopia(escena, tamaño, escala, visor.font());
+        return copia->imageData().value<QImage>().height() / escala - tamaño.height();
+    };
+    for (const qreal escala : {1.25, 1.5, 1.75, 2.0, 3.0})
+        EXPECT_NEAR(alto(escala) / alto(1), 1, .1) << escala;
 }
 
 TEST_F(Visor, LaGráficaSeCopiaConSuLeyendaComoPngYComoPdf) {

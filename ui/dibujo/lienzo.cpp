@@ -23,10 +23,10 @@ double Lienzo::DevT(double y) const {
     return MediaEscala - (y - área.top() - grosor / 2) / (área.height() - grosor) * 2 * MediaEscala;
 }
 
-QFont DevFuenteRótulos(const QFont& fuente, qreal grosor) {
+QFont DevFuenteRótulos(const QFont& fuente, qreal escala) {
     QFont rótulos = fuente;
     rótulos.setPixelSize(
-        std::max(1, static_cast<int>(std::lround(QFontInfo(fuente).pixelSize() * 0.9 * grosor))));
+        std::max(1, static_cast<int>(std::lround(QFontInfo(fuente).pixelSize() * 0.9 * escala))));
     return rótulos;
 }
 

@@ -18,9 +18,9 @@ struct Lienzo {
     double DevT(double y) const;
 };
 
-// The font of the labels beside a text in `fuente`, a little smaller, where lines are `grosor`
-// wide.
-QFont DevFuenteRótulos(const QFont& fuente, qreal grosor);
+// The font of the labels beside a text in `fuente`, a little smaller, where a logical pixel is
+// `escala` of the picture's units.
+QFont DevFuenteRótulos(const QFont& fuente, qreal escala);
 
 // Places of logical coordinates.
 qreal DevLugarX(const Lienzo& lienzo, const Ventana& ventana, double x);

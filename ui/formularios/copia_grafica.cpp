@@ -15,7 +15,7 @@ namespace {
 
 QImage DevImagen(const Escena& escena, const QSize& tamaño, qreal escala, const QFont& fuente) {
     const qreal grosor = std::max(1.0, std::round(escala));
-    const QFont rótulos = DevFuenteRótulos(fuente, grosor);
+    const QFont rótulos = DevFuenteRótulos(fuente, escala);
     const QRectF área(0, 0, std::round(tamaño.width() * escala),
                       std::round(tamaño.height() * escala));
     QImage medida(1, 1, QImage::Format_RGB32);

@@ -59,7 +59,7 @@ QPixmap VisorFunciones::DibujaCapa(const Cuadro& cuadro) const {
     const Lienzo lienzo = DevLienzo();
     QPixmap capa(lienzo.área.size().toSize());
     QPainter pintor(&capa);
-    pintor.setFont(DevFuenteRótulos(font(), lienzo.grosor));
+    pintor.setFont(DevFuenteRótulos(font(), devicePixelRatioF()));
     DibujaGráfica(pintor, lienzo, cuadro);
     pintor.end();
     capa.setDevicePixelRatio(devicePixelRatioF());
