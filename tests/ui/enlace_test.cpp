@@ -406,6 +406,27 @@ TEST_F(Marcadas, SiguenALaFunción) {
     EXPECT_FALSE(HayMarca(2, 0, magenta));
 }
 
+// Where there is none, or the command's steps are too few, the number is not told as if it were
+// one.
+TEST_F(Marcadas, UnÁreaDudosaLoDice) {
+    const struct {
+        const char* función;
+        bool dudosa;
+    } casos[] = {{"TAN(X)", true},     {"1/X", true},       {"SIN(311.048776594*X)^2", true},
+                 {"SIN(X)", false},    {"EXP(X)", false},   {"SQR(4-X^2)", false},
+                 {"SIN(10*X)", false}, {"X^3-3*X", false},  {"0*X", false},
+                 {"SQR(X)", false},    {"1/(1+X^2)", false}};
+    for (const auto& caso : casos) {
+        Define(1, caso.función);
+        Resuelve(QString::fromLatin1(caso.función) + QStringLiteral(",-5,5.1"),
+                 "HallarÁreaIntervalo");
+        ASSERT_TRUE(DevDescripción().contains(QStringLiteral("Área de f1(X) de -5 a 5.1: ")))
+            << caso.función;
+        EXPECT_EQ(DevDescripción().endsWith(QStringLiteral(" (poco fiable)")), caso.dudosa)
+            << caso.función << DevDescripción().toStdString();
+    }
+}
+
 TEST_F(Marcadas, ElÁreaSeSombrea) {
     Define(1, "X-1");
     const QColor antes = DevColorEn(4, 2);

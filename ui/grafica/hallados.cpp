@@ -80,14 +80,38 @@ std::optional<Lugar> DevLugar(FuncionesGráficas& funciones, const Hallazgo& h,
     return x ? std::optional(Lugar{*x, *valor(*x)}) : std::nullopt;
 }
 
+// The sum of trapezoids under the curve's magnitude; nothing where there is no value.
+double DevÁrea(FuncionesGráficas& funciones, const Hallazgo& h, int índice, int pasos) {
+    double suma = 0;
+    for (int i = 0; i <= pasos; ++i) {
+        const double parte = static_cast<double>(i) / pasos;
+        const double valor = std::fabs(
+            funciones.DevValor(índice, h.desde * (1 - parte) + h.hasta * parte).value_or(0));
+        suma += i == 0 || i == pasos ? valor / 2 : valor;
+    }
+    return suma / pasos * (h.hasta - h.desde);
+}
+
+// Beside a pole, or where a curve swings faster than the command steps, another number of steps
+// makes another area.
+bool EsFiable(FuncionesGráficas& funciones, const Hallazgo& h, int índice) {
+    constexpr int Pasos = 3001;
+    constexpr double Tolerancia = 0.005;
+    return std::fabs(DevÁrea(funciones, h, índice, Pasos) - h.y) <= Tolerancia * std::fabs(h.y);
+}
+
+std::string DevTextoÁrea(FuncionesGráficas& funciones, const Hallazgo& h, int índice, int dígitos) {
+    return "Área de " + DevNombre(índice) + " de " + TextoNúmero(h.desde) + " a " +
+           TextoNúmero(h.hasta) + ": " + TextoNúmero(Redondea(h.y, dígitos)) +
+           (EsFiable(funciones, h, índice) ? "" : " (poco fiable)");
+}
+
 // One finding on its function.
 void Añade(Marcas& marcas, FuncionesGráficas& funciones, const Hallazgo& h, const Destino& destino,
            int dígitos, int dígitosHallados) {
     if (h.clase == ClaseHallazgo::Área) {
         marcas.áreas.push_back({destino.índice, h.desde, h.hasta,
-                                "Área de " + DevNombre(destino.índice) + " de " +
-                                    TextoNúmero(h.desde) + " a " + TextoNúmero(h.hasta) + ": " +
-                                    TextoNúmero(Redondea(h.y, dígitos))});
+                                DevTextoÁrea(funciones, h, destino.índice, dígitos)});
         return;
     }
     if (const std::optional<Lugar> lugar = DevLugar(funciones, h, destino, dígitosHallados))
