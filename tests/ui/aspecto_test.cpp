@@ -168,6 +168,7 @@ TEST_F(Aspecto, LaVentanaCabeEnLaPantallaYNoEsMayorQueLaSuya) {
                                      .expandedTo(formulario.minimumSizeHint()));
     EXPECT_GT(Busca<QWidget>("VisorFunciones").width(), txtSalida.width());
     EXPECT_LE(txtSalida.width(), 400);
+    EXPECT_NEAR(txtSalida.parentWidget()->width(), std::min(400, formulario.width() * 36 / 100), 8);
 }
 
 TEST_F(Aspecto, LasCasillasDicenQuéDibujan) {

@@ -100,7 +100,7 @@ constexpr const char* Menús =
     status: El eje Y abarca las curvas que se ven
   Ejes &iguales
     status: Una unidad mide lo mismo en los dos ejes
-  &Vista anterior [Alt+Left]
+  &Vista anterior [Alt+Left] (off)
     status: Los extremos de antes del último cambio
   ---
   &Método de Dibujo
@@ -231,7 +231,7 @@ Copiar &tabla de valores [Ctrl+Shift+T]
   status: El eje Y abarca las curvas que se ven
 Ejes &iguales
   status: Una unidad mide lo mismo en los dos ejes
-&Vista anterior [Alt+Left]
+&Vista anterior [Alt+Left] (off)
   status: Los extremos de antes del último cambio
 &Quitar marcas (off)
   status: Lo que halló la última orden deja de señalarse en la gráfica
