@@ -132,11 +132,42 @@ QUIRALTO_EN_LÍNEA bool EjecutaAritmética(std::size_t cantidad, const FilasDePa
     return SonFinitos(sumas);
 }
 
+// One over the products that a power to -Exponente is made of; false where one of them is not in
+// range, and such a power then another.
+template <int Exponente>
+bool InvierteProductos(std::size_t cantidad, const double* bases, double* __restrict destino) {
+    bool enRango = true;
+    for (std::size_t i = 0; i < cantidad; ++i) {
+        const double producto = PotenciaEntera<Exponente>(bases[i]);
+        enRango &= std::isnormal(producto);
+        destino[i] = 1 / producto;
+    }
+    return enRango;
+}
+
+// The powers of a row to one constant, where that is whole, small and negative and no power is out
+// of range; false where the general loop is to be run.
+template <int... UnoMenos>
+bool PotenciasNegativas(std::size_t cantidad, const FilasDePaso& filas,
+                        std::integer_sequence<int, UnoMenos...>) {
+    const Fuente& exponente = filas.fuentes[2];
+    return exponente.máscara == 0 &&
+           ((*exponente.datos == -(UnoMenos + 1) &&
+             InvierteProductos<UnoMenos + 1>(cantidad, filas.fuentes[0].datos, filas.destino)) ||
+            ...);
+}
+
 // A power, or a function of (a interna b): value by value.
 template <typename Varios, std::size_t Fila, Operación Interna>
 QUIRALTO_EN_LÍNEA bool EjecutaUnoAUno(std::size_t cantidad, const FilasDePaso& filas) {
     double* const __restrict destino = filas.destino;
     const std::array<Fuente, 4> fuentes = filas.fuentes;
+    if (TablaOperaciones[Fila].código == Operación::Potencia &&
+        PotenciasNegativas(cantidad, filas,
+                           std::make_integer_sequence<int, MáximoExponenteProducto>{})) {
+        std::fill(destino + cantidad, destino + EnCarriles(cantidad), destino[cantidad - 1]);
+        return true;
+    }
     for (std::size_t i = 0; i < cantidad; ++i) {
         double izquierdo = 0;
         LeeOperando<Interna>(Desde(fuentes[0], i), Desde(fuentes[1], i), izquierdo);

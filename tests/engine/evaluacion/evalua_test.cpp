@@ -6,11 +6,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <optional>
 #include <set>
+#include <utility>
 
 namespace quiralto {
 namespace {
@@ -179,7 +182,7 @@ TEST(EvalúaPrograma, CalculaLasFunciones) {
 TEST(EvalúaPrograma, LasPotenciasEnterasSonCasiExactas) {
     Banco banco;
     Generador generador(2);
-    for (int exponente = 2; exponente <= 12; ++exponente) {
+    for (int exponente = -12; exponente <= 12; ++exponente) {
         Programa programa = CompilaExpresión("X^" + std::to_string(exponente));
         for (int i = 0; i < 2000; ++i) {
             const double x = generador.Real(-20, 20);
@@ -187,6 +190,25 @@ TEST(EvalúaPrograma, LasPotenciasEnterasSonCasiExactas) {
             EXPECT_NEAR(EvalúaPrograma(banco.contexto, programa, x) / exacta, 1, 1e-15)
                 << x << '^' << exponente;
         }
+    }
+}
+
+// Where the product is beyond the range, or has lost digits, its inverse need not be.
+TEST(EvalúaPrograma, LasPotenciasNegativasLleganHastaElFinalDelRango) {
+    Banco banco;
+    for (int exponente = 1; exponente <= 8; ++exponente) {
+        Programa programa = CompilaExpresión("X^-" + std::to_string(exponente));
+        for (double diez = 300; diez <= 323; diez += .25)
+            for (const double x :
+                 {std::pow(10, diez / exponente), std::pow(10, -diez / exponente)}) {
+                const double exacta = std::pow(x, -exponente);
+                const double valor = EvalúaPrograma(banco.contexto, programa, x);
+                if (std::isinf(exacta))
+                    EXPECT_EQ(std::exchange(banco.contexto.ErrorCódigo, SinFallo), Desbordamiento);
+                else
+                    EXPECT_NEAR(valor, exacta, std::max(exacta * 1e-15, Mínimo))
+                        << x << "^-" << exponente;
+            }
     }
 }
 
@@ -223,7 +245,21 @@ TEST(EvalúaPrograma, UnCódigoFueraDeLaTablaNoHaceNada) {
     }
 }
 
-// Both runs at the same values of X: the same bits and the same faults.
+// What the evaluator gives of one value of X after the other.
+std::vector<std::optional<double>> DevSueltos(Contexto& contexto, const Programa& programa,
+                                              const std::vector<double>& equis) {
+    contexto.generador.Siembra(1);
+    EvaluadorDeBloques evaluador(programa);
+    std::vector<std::optional<double>> sueltos;
+    for (const double x : equis) {
+        contexto.ErrorCódigo = Desbordamiento;
+        sueltos.push_back(evaluador.DevValor(contexto, x));
+        EXPECT_EQ(contexto.ErrorCódigo, SinFallo);
+    }
+    return sueltos;
+}
+
+// All runs at the same values of X: the same bits and the same faults.
 void CompruebaBloque(const std::string& texto, const std::vector<double>& equis) {
     Banco banco;
     const Programa programa = CompilaExpresión(texto);
@@ -238,6 +274,7 @@ void CompruebaBloque(const std::string& texto, const std::vector<double>& equis)
     banco.contexto.generador.Siembra(1);
     EvalúaBloque(banco.contexto, programa, equis, valoresSinCausa, fallosSinCausa, Causa::Ninguna);
     ASSERT_EQ(banco.contexto.ErrorCódigo, 77) << texto;
+    const std::vector<std::optional<double>> sueltos = DevSueltos(banco.contexto, programa, equis);
     banco.contexto.generador.Siembra(1);
     Programa copia = programa;
     for (std::size_t i = 0; i < equis.size(); ++i) {
@@ -246,9 +283,10 @@ void CompruebaBloque(const std::string& texto, const std::vector<double>& equis)
         ASSERT_EQ(fallos[i], banco.contexto.ErrorCódigo) << texto << " X=" << equis[i];
         ASSERT_EQ(fallosSinCausa[i] == SinFallo, fallos[i] == SinFallo)
             << texto << " X=" << equis[i];
+        ASSERT_EQ(sueltos[i].has_value(), fallos[i] == SinFallo) << texto << " X=" << equis[i];
         if (fallos[i] != SinFallo)
             continue;
-        for (const double suyo : {valores[i], valoresSinCausa[i]})
+        for (const double suyo : {valores[i], valoresSinCausa[i], *sueltos[i]})
             ASSERT_EQ(std::bit_cast<std::uint64_t>(suyo), std::bit_cast<std::uint64_t>(valor))
                 << texto << " X=" << equis[i];
     }
@@ -340,6 +378,19 @@ TEST(EvalúaBloque, CadaPotenciaEnteraEsLaMismaEnAmbos) {
     Generador generador(5);
     for (int exponente = -12; exponente <= 12; ++exponente)
         CompruebaBloque("X^" + std::to_string(exponente), EquisDe(300, generador));
+}
+
+// Among ordinary bases, one whose power is beyond the range, or has lost digits, or is none.
+TEST(EvalúaBloque, UnaPotenciaNegativaFueraDeRangoEsLaMismaEnAmbos) {
+    Generador generador(8);
+    for (int exponente = 1; exponente <= 8; ++exponente)
+        for (const double diez : {-323.5, -308.0, -307.7, 307.9, 308.3, 320.0}) {
+            std::vector<double> equis = EquisDe(20, generador);
+            equis[generador.Hasta(equis.size())] = std::pow(10, diez / exponente);
+            CompruebaBloque("X^-" + std::to_string(exponente), equis);
+            equis[generador.Hasta(equis.size())] = 0;
+            CompruebaBloque("(X/3)^-" + std::to_string(exponente), equis);
+        }
 }
 
 TEST(EvalúaBloque, UnExponenteConXPuedeSerEntero) {

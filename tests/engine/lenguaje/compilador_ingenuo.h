@@ -145,14 +145,26 @@ struct ValorIngenuo {
     int fallo = 0;
 };
 
-// base^exponente; the whole exponents 2 to 8 are products.
-inline double PotenciaIngenua(double base, int exponente) {
+// The base to a positive whole exponent, by products.
+inline double ProductoIngenuo(double base, int exponente) {
     if (exponente == 1)
         return base;
     if (exponente % 2 != 0)
-        return PotenciaIngenua(base, exponente - 1) * base;
-    const double mitad = PotenciaIngenua(base, exponente / 2);
+        return ProductoIngenuo(base, exponente - 1) * base;
+    const double mitad = ProductoIngenuo(base, exponente / 2);
     return mitad * mitad;
+}
+
+// base^exponente: the whole exponents 2 to 8 are products, and -8 to -1 one over them where these
+// are in range.
+inline double PotenciaIngenua(double base, double exponente) {
+    const int tamaño = std::fabs(exponente) <= 8 ? static_cast<int>(std::fabs(exponente)) : 0;
+    if (tamaño == 0 || tamaño != std::fabs(exponente))
+        return std::pow(base, exponente);
+    const double producto = ProductoIngenuo(base, tamaño);
+    if (exponente > 0)
+        return producto;
+    return std::isnormal(producto) ? 1 / producto : std::pow(base, exponente);
 }
 
 // One instruction; the faults are told by the operands, before the result is looked at.
@@ -171,8 +183,7 @@ inline ValorIngenuo OperaIngenuo(int código, double a, double b) {
             return {0, 11};
         if (a < 0 && b != std::floor(b))
             return {0, 5};
-        return {b >= 2 && b <= 8 && b == std::floor(b) ? PotenciaIngenua(a, static_cast<int>(b))
-                                                       : std::pow(a, b)};
+        return {PotenciaIngenua(a, b)};
     case 6:
         return {std::log(b), b <= 0 ? 5 : 0};
     case 7:
