@@ -68,7 +68,7 @@ std::optional<Solución> BuscaUnoAUno(Contexto& contexto, Programa& programa, do
     for (double x0 = a; a <= b;) {
         a = x0 + h;
         if (a == x0)
-            return Solución{x0, TextoResultado(x0, contexto.DígitosRedondeo)};
+            return DevSolución(x0, contexto.DígitosRedondeo);
         const std::optional<int> suyo = signo(a);
         if (!suyo || *suyo == *primero)
             x0 = a;

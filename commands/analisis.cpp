@@ -71,7 +71,7 @@ void DevSolucionesReales(Contexto& contexto, Hoja& hoja, const std::string& f,
                      if (!r)
                          return std::nullopt;
                      return Punto{*r, Hallazgo{ClaseHallazgo::Solución, f, intervalo.a, intervalo.b,
-                                               Val(r->texto)}};
+                                               r->redondeada}};
                  });
 }
 
@@ -111,7 +111,7 @@ std::optional<Punto> DevPuntoExtremo(FunciónDerivada& f, BuscadorDeSoluciones& 
     const std::optional<Solución> r = primera.Busca(a, intervalo.b, intervalo.h, Precisión::Texto);
     if (!r)
         return std::nullopt;
-    const double x = Val(r->texto);
+    const double x = r->redondeada;
     const std::optional<double> curvatura = f.DevCurvatura(x);
     const std::optional<double> valor = f.DevValorFunción(x);
     if (!curvatura || *curvatura == 0 || !valor)
@@ -144,7 +144,7 @@ std::optional<Punto> DevPuntoInflexión(FunciónDerivada& f, BuscadorDeSolucione
     const std::optional<Solución> r = segunda.Busca(a, intervalo.b, intervalo.h, Precisión::Texto);
     if (!r)
         return std::nullopt;
-    const double x = Val(r->texto);
+    const double x = r->redondeada;
     const std::optional<double> valor = f.DevValorFunción(x);
     if (!valor)
         return Punto{*r, std::nullopt};

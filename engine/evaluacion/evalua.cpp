@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace quiralto {
@@ -19,6 +20,61 @@ Fallo DevFallo(Operación código, double izquierdo, double derecho, double resu
     if (suyo != SinFallo)
         return suyo;
     return std::isnan(resultado) ? ArgumentoInválido : Desbordamiento;
+}
+
+// The value of a row, and into `escondido`, which is 0 else, what is not finite there and the row
+// could hide.
+template <std::size_t Fila>
+double OperaVigilando(double izquierdo, double derecho, double& escondido) {
+    constexpr const DescripciónOperación& operación = TablaOperaciones[Fila];
+    if constexpr (operación.oculta == Oculta::Ambos)
+        escondido += izquierdo * 0;
+    if constexpr (operación.oculta != Oculta::Nada)
+        escondido += derecho * 0;
+    if constexpr (operación.familia == Familia::Símbolo)
+        return derecho; // which no reduced program has
+    else
+        return operación.valor(izquierdo, derecho, nullptr);
+}
+
+constexpr double SinValor = std::numeric_limits<double>::quiet_NaN();
+
+// The value at a finite x, or none where there is a fault, of a program that Reduce gives: what is
+// no number stays so up to the end, so that only what its reader could hide is looked at on the
+// way. The last result is handed on without the way through the registers, on which each call of a
+// chain would wait.
+double DevValorReducido(std::span<const Instrucción> instrucciones, double* registros, double x) {
+    registros[0] = x;
+    double escondido = 0;
+    double último = x;
+    std::int16_t deÚltimo = 0;
+    for (const Instrucción& instrucción : instrucciones) {
+        const double izquierdo = registros[instrucción.izquierdo];
+        double derecho = último;
+        if (instrucción.derecho != deÚltimo)
+            derecho = registros[instrucción.derecho];
+        ConFila(instrucción.código,
+                [&](auto fila) { último = OperaVigilando<fila>(izquierdo, derecho, escondido); });
+        deÚltimo = instrucción.resultado;
+        registros[deÚltimo] = último;
+    }
+    return escondido + último * 0 == 0 ? último : SinValor;
+}
+
+// The instructions of a program, those first whose operands are there first: what a chain of
+// functions does not need stands before it and is done in its time, where the sine and the tangent
+// would otherwise keep it waiting, which on some machines let all before them finish first.
+std::vector<Instrucción> OrdenaPorNiveles(const Programa& programa) {
+    std::vector<std::size_t> nivel(programa.registros.size());
+    const auto nivelDe = [&](std::int16_t registro) -> std::size_t& {
+        return nivel[static_cast<std::size_t>(registro)];
+    };
+    for (const Instrucción& i : programa.instrucciones)
+        nivelDe(i.resultado) = 1 + std::max(nivelDe(i.izquierdo), nivelDe(i.derecho));
+    std::vector<Instrucción> ordenadas = programa.instrucciones;
+    std::ranges::stable_sort(ordenadas, {},
+                             [&](const Instrucción& i) { return nivelDe(i.resultado); });
+    return ordenadas;
 }
 
 } // namespace
@@ -54,9 +110,13 @@ struct EvaluadorDeBloques::Partes {
     explicit Partes(const Programa& original) : Partes(Reduce(original), original) {}
     Partes(const std::optional<Programa>& reducido, const Programa& original)
         : programa(reducido ? *reducido : original),
-          porBloques(reducido && PlaneaBloque(programa, plan)), ejecutor(plan) {}
+          porBloques(reducido && PlaneaBloque(programa, plan)), ejecutor(plan) {
+        if (reducido)
+            porNiveles = OrdenaPorNiveles(programa);
+    }
 
-    Programa programa; // for the values that need the scalar run
+    Programa programa;                   // for the values that need the scalar run
+    std::vector<Instrucción> porNiveles; // its instructions, where it is reduced
     Plan plan;
     bool porBloques;
     EjecutorDeBloques ejecutor;
@@ -68,8 +128,12 @@ EvaluadorDeBloques::EvaluadorDeBloques(const Programa& programa)
 
 EvaluadorDeBloques::~EvaluadorDeBloques() = default;
 
-std::optional<double> EvaluadorDeBloques::DevValor(Contexto& contexto, double x) {
-    return quiralto::DevValor(contexto, partes_->programa, x);
+double EvaluadorDeBloques::DevValor(Contexto& contexto, double x) {
+    // An X that is no number is no fault, even where an instruction hides it.
+    if (partes_->porNiveles.empty() || !std::isfinite(x))
+        return quiralto::DevValor(contexto, partes_->programa, x).value_or(SinValor);
+    contexto.ErrorCódigo = SinFallo;
+    return DevValorReducido(partes_->porNiveles, partes_->programa.registros.data(), x);
 }
 
 void EvaluadorDeBloques::Evalúa(Contexto& contexto, std::span<const double> equis,
@@ -89,7 +153,9 @@ void EvaluadorDeBloques::Evalúa(Contexto& contexto, std::span<const double> equ
 void EvaluadorDeBloques::EvalúaTramo(Contexto& contexto, std::span<const double> equis,
                                      std::span<double> valores, std::span<std::int16_t> fallos,
                                      Causa causa) {
-    auto& [programa, plan, porBloques, ejecutor] = *partes_;
+    Programa& programa = partes_->programa;
+    EjecutorDeBloques& ejecutor = partes_->ejecutor;
+    const bool porBloques = partes_->porBloques;
     if (porBloques) {
         ejecutor.Ejecuta(equis, valores);
         std::ranges::fill(fallos, std::int16_t{SinFallo});

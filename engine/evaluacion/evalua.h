@@ -45,9 +45,9 @@ public:
     void Evalúa(Contexto& contexto, std::span<const double> equis, std::span<double> valores,
                 std::span<std::int16_t> fallos, Causa causa = Causa::Código);
 
-    // The value at x, or none where there is a fault: what DevValor gives of the program, and in
-    // less time where it says a thing twice. Leaves ErrorCódigo clear.
-    std::optional<double> DevValor(Contexto& contexto, double x);
+    // The value at x, or not a number where there is a fault: what DevValor gives of the program,
+    // and in less time where it says a thing twice. Leaves ErrorCódigo clear.
+    double DevValor(Contexto& contexto, double x);
 
 private:
     // One to TamañoFila values.

@@ -9,10 +9,11 @@
 namespace quiralto {
 namespace {
 
-// How many points of the walk are run over at once: at first about as many as the last search took,
-// since neighbouring roots stand alike, and then more and more, so that a long way is soon gone.
+// How many points of the walk are run over at once: at first as many as the last search but one
+// took, since a function that swings goes up and down in turns, and then more and more, so that a
+// long way is soon gone.
 constexpr std::size_t MenorBloque = 4;
-constexpr std::size_t MayorPrimerBloque = 32;
+constexpr std::size_t MayorPrimerBloque = 64;
 constexpr std::size_t MayorBloque = 256;
 
 int Signo(double valor) {
@@ -21,26 +22,27 @@ int Signo(double valor) {
 
 } // namespace
 
+Solución DevSolución(double raíz, int dígitosRedondeo) {
+    Solución solución{raíz, TextoResultado(raíz, dígitosRedondeo), 0};
+    solución.redondeada = Val(solución.texto);
+    return solución;
+}
+
 BuscadorDeSoluciones::BuscadorDeSoluciones(Contexto& contexto, const Programa& programa)
     : contexto_(contexto), función_(programa) {
 }
 
-// The sign of the program's value at x, or none where it has no value.
-std::optional<int> BuscadorDeSoluciones::DevSigno(double x) {
-    contexto_.Vigila();
-    const std::optional<double> valor = función_.DevValor(contexto_, x);
-    return valor ? std::optional(Signo(*valor)) : std::nullopt;
-}
-
 // The points of the walk from x on: up to b, and up to the first that the step does not change.
 void BuscadorDeSoluciones::EvalúaPasos(double x, double b, double h, std::size_t cantidad) {
-    equis_.clear();
-    while (x <= b && equis_.size() < cantidad) {
-        equis_.push_back(x);
+    equis_.resize(cantidad);
+    std::size_t puntos = 0;
+    while (x <= b && puntos < cantidad) {
+        equis_[puntos++] = x;
         if (x + h == x)
             break;
         x += h;
     }
+    equis_.resize(puntos);
     valores_.resize(equis_.size());
     fallos_.resize(equis_.size());
     función_.Evalúa(contexto_, equis_, valores_, fallos_, Causa::Ninguna);
@@ -52,11 +54,13 @@ std::optional<BuscadorDeSoluciones::Cambio> BuscadorDeSoluciones::BuscaCambio(do
                                                                               double h) {
     std::optional<int> signo;
     double antes = a;
-    std::size_t cantidad = std::clamp(puntosAnteriores_ + 1, MenorBloque, MayorPrimerBloque);
-    puntosAnteriores_ = 0;
+    auto& [últimos, penúltimos] = puntosAnteriores_;
+    std::size_t cantidad =
+        std::clamp(std::min(penúltimos, 2 * últimos) + 1, MenorBloque, MayorPrimerBloque);
+    penúltimos = std::exchange(últimos, 0);
     for (double x = a; x <= b; x = antes + h) {
         EvalúaPasos(x, b, h, cantidad);
-        for (std::size_t i = 0; i < equis_.size(); ++i, ++puntosAnteriores_) {
+        for (std::size_t i = 0; i < equis_.size(); ++i, ++últimos) {
             const int suyo = Signo(valores_[i]);
             if (fallos_[i] == SinFallo && suyo != signo.value_or(suyo))
                 return Cambio{antes, equis_[i], *signo};
@@ -81,15 +85,20 @@ std::optional<Solución> BuscadorDeSoluciones::Busca(double a, double b, double 
 // only touches 0 and walk on with a step near nothing. The change itself is not asked again.
 Solución BuscadorDeSoluciones::Estrecha(Cambio cambio, double h, Precisión precisión) {
     auto& [antes, después, signo] = cambio;
-    // Doubles further from each other have no text in common.
+    // Doubles further from each other hardly have a text in common.
     const double ancho =
-        precisión == Precisión::Texto ? 2 * std::pow(10, -contexto_.DígitosRedondeo) : 0;
+        precisión == Precisión::Texto ? std::pow(10, -contexto_.DígitosRedondeo) : 0;
     for (double paso = h;;) {
         const double x = std::min(antes + paso, después);
         if (x == antes)
-            return {antes, TextoResultado(antes, contexto_.DígitosRedondeo)};
-        const std::optional<int> nuevo = x == después ? std::nullopt : DevSigno(x);
-        if (x != después && (!nuevo || *nuevo == signo)) {
+            return DevSolución(antes, contexto_.DígitosRedondeo);
+        if (x == después) {
+            paso /= 2;
+            continue;
+        }
+        contexto_.Vigila();
+        const double valor = función_.DevValor(contexto_, x);
+        if (std::isnan(valor) || Signo(valor) == signo) {
             antes = x;
         } else {
             después = x;
@@ -110,8 +119,8 @@ std::optional<Solución> BuscadorDeSoluciones::DevSiCierta(const Cambio& cambio,
     if (Redondea(antes, dígitos) != Redondea(después, dígitos) ||
         std::trunc(antes) != std::trunc(después) || antes == std::trunc(antes))
         return std::nullopt;
-    Solución solución{antes, TextoResultado(antes, dígitos)};
-    if (Val(solución.texto) + paso > después)
+    Solución solución = DevSolución(antes, dígitos);
+    if (solución.redondeada + paso > después)
         return solución;
     return std::nullopt;
 }
@@ -122,7 +131,7 @@ std::optional<Solución> BuscaSolución(Contexto& contexto, const Programa& prog
 }
 
 std::optional<double> DevSiguienteComienzo(const Solución& solución, double h) {
-    for (const double origen : {Val(solución.texto), solución.raíz})
+    for (const double origen : {solución.redondeada, solución.raíz})
         if (origen + h > solución.raíz)
             return origen + h;
     return std::nullopt;

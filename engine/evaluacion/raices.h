@@ -3,6 +3,7 @@
 
 #include "engine/evaluacion/evalua.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,7 +13,11 @@ namespace quiralto {
 struct Solución {
     double raíz;       // a Double before the change of sign
     std::string texto; // rounded to DígitosRedondeo, with a leading blank if not negative
+    double redondeada; // what the text reads as
 };
+
+// The solution at a root.
+Solución DevSolución(double raíz, int dígitosRedondeo);
 
 // How near the root is looked for: up to where its text is certain, and where the search for the
 // next one starts, or up to the largest Double before the change of sign, which has the same ones.
@@ -41,7 +46,6 @@ private:
         double después;
         int signo; // of the points up to the change
     };
-    std::optional<int> DevSigno(double x);
     Solución Estrecha(Cambio cambio, double h, Precisión precisión);
     std::optional<Solución> DevSiCierta(const Cambio& cambio, double paso) const;
     std::optional<Cambio> BuscaCambio(double a, double b, double h);
@@ -53,7 +57,8 @@ private:
     std::vector<double> equis_;
     std::vector<double> valores_;
     std::vector<std::int16_t> fallos_;
-    std::size_t puntosAnteriores_ = 15; // that the last walk took, or a usual one
+    // That the last walk took, and the one before it, or usual ones.
+    std::array<std::size_t, 2> puntosAnteriores_ = {15, 15};
 };
 
 // The first root of the program to the last Double, for a single search.

@@ -303,18 +303,22 @@ TEST(BuscaSolución, AcotaSusEvaluaciones) {
     }
 }
 
+Solución Hallada(double raíz, const std::string& texto) {
+    return {raíz, texto, Val(texto)};
+}
+
 TEST(DevSiguienteComienzo, EsLaRaízRedondeadaMásElPaso) {
-    EXPECT_EQ(DevSiguienteComienzo({-2.000000000000001, "-2"}, 0.01), -2 + 0.01);
-    EXPECT_EQ(DevSiguienteComienzo({1.9999999999999998, " 2"}, 0.01), 2 + 0.01);
-    EXPECT_EQ(DevSiguienteComienzo({1.41421356237, " 1.41421356"}, 0.01), 1.41421356 + 0.01);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(-2.000000000000001, "-2"), 0.01), -2 + 0.01);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(1.9999999999999998, " 2"), 0.01), 2 + 0.01);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(1.41421356237, " 1.41421356"), 0.01), 1.41421356 + 0.01);
     // Where that does not lie beyond the root: the root itself.
-    EXPECT_EQ(DevSiguienteComienzo({0.4, " 0"}, 0.002), 0.4 + 0.002);
-    EXPECT_EQ(DevSiguienteComienzo({4.9e-9, " 0"}, 1e-10), 4.9e-9 + 1e-10);
-    EXPECT_EQ(DevSiguienteComienzo({0.5, " .25"}, 0.25), 0.5 + 0.25);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(0.4, " 0"), 0.002), 0.4 + 0.002);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(4.9e-9, " 0"), 1e-10), 4.9e-9 + 1e-10);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(0.5, " .25"), 0.25), 0.5 + 0.25);
     // Rounding up may skip ahead.
-    EXPECT_EQ(DevSiguienteComienzo({0.6, " 1"}, 0.002), 1 + 0.002);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(0.6, " 1"), 0.002), 1 + 0.002);
     // A step that leaves no root.
-    EXPECT_EQ(DevSiguienteComienzo({1, " 1"}, 1e-30), std::nullopt);
+    EXPECT_EQ(DevSiguienteComienzo(Hallada(1, " 1"), 1e-30), std::nullopt);
 }
 
 } // namespace
