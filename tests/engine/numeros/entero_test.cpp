@@ -134,6 +134,13 @@ TEST(Entero, ElCocienteEsElDobleMásCercano) {
     EXPECT_TRUE(std::isinf(DevCociente(Entero(1).Desplazado(5000), 3)));
     EXPECT_EQ(DevCociente(3, Entero(1).Desplazado(500000)), 0);
     EXPECT_EQ(DevCociente(DevPotenciaDeDiez(400), DevPotenciaDeDiez(401)), 0.1);
+    // Half way between two Doubles the even one is nearest, and the least remainder decides.
+    const Entero mitad = Entero((std::int64_t{1} << 53) + 1) * DevPotenciaDeDiez(40);
+    const Entero divisor = DevPotenciaDeDiez(40) * 2;
+    EXPECT_EQ(DevCociente(mitad, divisor), 0x1p52);
+    EXPECT_EQ(DevCociente(mitad + 1, divisor), 0x1p52 + 1);
+    EXPECT_EQ(DevCociente((mitad + 1) * -1, divisor), -0x1p52 - 1);
+    EXPECT_EQ(DevCociente(mitad + -1, divisor), 0x1p52);
 }
 
 TEST(Entero, LasPotenciasDeDiezSonProductosDeDieces) {
