@@ -139,6 +139,14 @@ TEST(BuscaSolución, SeCancela) {
     EXPECT_THROW(BuscaSolución(banco.contexto, programa, -5, 5, 0.01), OrdenCancelada);
 }
 
+TEST(BuscaSolución, SeCancelaMientrasPorMitades) {
+    Banco banco;
+    int quedan = 20; // the walk is one block, and the halving some fifty points
+    banco.vigilante.continúa = [&] { return --quedan > 0; };
+    Programa programa = CompilaExpresión("X-1/3");
+    EXPECT_THROW(BuscaSolución(banco.contexto, programa, 0, 1, 1), OrdenCancelada);
+}
+
 // The search step by step, for the tests; none past `máximo` evaluations.
 std::optional<std::string> BuscaIngenuo(Contexto& contexto, Programa& programa, double a, double b,
                                         double h, int máximo) {
