@@ -55,9 +55,6 @@ inline void ExigeMismoValor(std::string_view typed, std::string_view written, in
         auto vb = redondeado.Evalúa(x);
         if (!va || !vb)
             continue;
-        // Both sides of a fraction have fifteen digits before they are reduced to whole numbers.
-        constexpr long double DosVecesQuinceDígitos = 1e-14L;
-        vb->cota += DosVecesQuinceDígitos * std::fabs(vb->valor);
         if (licencia.términos)
             vb->cota += media / (1 - tamaño);
         vb->cota +=

@@ -41,6 +41,10 @@ struct Redondeo {
         // A decimal is not the Double that it is read as.
         if (mediaUnidad == 0)
             return esEntera ? 0 : tamaño * 0x1p-53L;
+        // The sides of a fraction are cut to fifteen digits before they are reduced.
+        constexpr long double NuncaCortado = 1e6L;
+        if (esEntera && tamaño > NuncaCortado)
+            return Relativa * tamaño;
         return esEntera && !tambiénEnteros ? 0 : mediaUnidad + Relativa * tamaño;
     }
 };
