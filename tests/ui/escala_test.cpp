@@ -90,6 +90,13 @@ TEST_F(Escala, ElClicEsElLugarQueSeVe) {
     EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("10"));
 }
 
+TEST_F(Escala, LasCoordenadasSonLasDelPuntero) {
+    QMouseEvent movido(QEvent::MouseMove, QPointF(450, 100), visor.mapToGlobal(QPointF(450, 100)),
+                       Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&visor, &movido);
+    EXPECT_EQ(Busca<QLabel>("coordenadas").text(), QStringLiteral("X=5  Y=5"));
+}
+
 TEST_F(Escala, LaGráficaCopiadaTieneLaDeLaPantalla) {
     Pulsa("CopiarGráfica");
     EXPECT_EQ(QApplication::clipboard()->image().size(), visor.size() * escala);
