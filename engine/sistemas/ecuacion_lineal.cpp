@@ -2,7 +2,6 @@
 
 #include "engine/base/rechazo.h"
 #include "engine/desarrollo/desarrollo.h"
-#include "engine/evaluacion/evalua.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/operaciones.h"
 #include "engine/numeros/numero.h"
@@ -36,20 +35,6 @@ bool EsIncógnita(const Base& base) {
            base.texto.starts_with(PrefijoSln);
 }
 
-bool EsX(const Base& base) {
-    return base.clase == ClaseBase::Variable && base.texto == "X";
-}
-
-// Whether a constant's text names X or an unknown; the X of EXP is none.
-bool HayVariable(std::string_view texto) {
-    if (texto.find(PrefijoSln) != std::string_view::npos)
-        return true;
-    for (std::size_t i = texto.find('X'); i != std::string_view::npos; i = texto.find('X', i + 1))
-        if (i == 0 || texto[i - 1] != 'E')
-            return true;
-    return false;
-}
-
 class Lector {
 public:
     Lector(Contexto& contexto, TablaSímbolos& tabla) : contexto_(contexto), tabla_(tabla) {}
@@ -77,20 +62,19 @@ private:
         int índice = 0;
         for (const Factor& factor : término.literal) {
             const Base& base = tabla_.BaseDe(factor.símbolo);
-            if (!tabla_.EsLlano(factor.símbolo) || factor.exponente != 1 || EsX(base))
-                return RechazaNoLineal(contexto_);
-            if (EsIncógnita(base)) {
-                if (!IndiceCorrectoSln(base.texto))
-                    return false;
-                if (índice != 0)
-                    return RechazaNoLineal(contexto_);
-                índice = DevIndiceSln(base.texto);
+            // What is left where unknowns cancel in exponents; any other number is evaluated.
+            if (base.clase == ClaseBase::Euler && tabla_.EsLlano(factor.símbolo)) {
+                const double exponente = factor.exponente.Valor().ADouble();
+                coeficiente *= tabla_.DevRedondeado(std::exp(exponente));
                 continue;
             }
-            const std::optional<double> valor = DevConstante(base);
-            if (!valor)
+            if (!tabla_.EsLlano(factor.símbolo) || factor.exponente != 1 || !EsIncógnita(base))
                 return RechazaNoLineal(contexto_);
-            coeficiente *= tabla_.DevRedondeado(*valor);
+            if (!IndiceCorrectoSln(base.texto))
+                return false;
+            if (índice != 0)
+                return RechazaNoLineal(contexto_);
+            índice = DevIndiceSln(base.texto);
         }
         if (índice == 0) {
             independiente_ -= coeficiente;
@@ -107,13 +91,6 @@ private:
             return true;
         MuestraRechazo(contexto_, {.motivo = Motivo::ÍndiceFueraDeRango});
         return false;
-    }
-
-    std::optional<double> DevConstante(const Base& base) {
-        if (HayVariable(base.texto))
-            return std::nullopt;
-        Programa programa = CompilaExpresión(base.texto);
-        return DevValor(contexto_, programa, 0);
     }
 
     Contexto& contexto_;
