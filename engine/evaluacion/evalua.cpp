@@ -8,6 +8,7 @@
 #include <cassert>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace quiralto {
@@ -71,9 +72,14 @@ std::vector<Instrucción> OrdenaPorNiveles(const Programa& programa) {
     };
     for (const Instrucción& i : programa.instrucciones)
         nivelDe(i.resultado) = 1 + std::max(nivelDe(i.izquierdo), nivelDe(i.derecho));
-    std::vector<Instrucción> ordenadas = programa.instrucciones;
-    std::ranges::stable_sort(ordenadas, {},
-                             [&](const Instrucción& i) { return nivelDe(i.resultado); });
+    // Those of a level are as many as its place is behind that of the one before.
+    std::vector<std::size_t> lugar(programa.instrucciones.size() + 2);
+    for (const Instrucción& i : programa.instrucciones)
+        ++lugar[nivelDe(i.resultado) + 1];
+    std::partial_sum(lugar.begin(), lugar.end(), lugar.begin());
+    std::vector<Instrucción> ordenadas(programa.instrucciones.size());
+    for (const Instrucción& i : programa.instrucciones)
+        ordenadas[lugar[nivelDe(i.resultado)]++] = i;
     return ordenadas;
 }
 
