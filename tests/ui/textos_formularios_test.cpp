@@ -268,22 +268,33 @@ TEST_F(TextosDeLosFormularios, LaDescripciónDeLaImagen) {
               "Marcas: Solución de f2(X) en X=-2; Solución de f2(X) en X=2");
 }
 
+// A widget, so that the letters are smoothed as those of the graph are.
+struct Rótulo : QWidget {
+    void paintEvent(QPaintEvent* /*suceso*/) override {
+        QPainter pintor(this);
+        pintor.fillRect(rect(), Papel);
+        pintor.setPen(ColorTexto);
+        pintor.drawText(QRect(0, 0, 600, 350), Qt::AlignCenter,
+                        QStringLiteral("Escriba una función en f0(X), por ejemplo SIN(X)"), &marco);
+    }
+
+    QRect marco;
+};
+
 // It is drawn, not held by any control: the same letters on the same ground.
 TEST_F(TextosDeLosFormularios, LaInvitaciónDeLaGráficaVacía) {
     auto& visor = Busca<QWidget>("VisorFunciones");
     visor.setFixedSize(600, 400);
     QTest::qWait(1);
-    const QImage imagen = visor.grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QImage esperada(imagen.size(), QImage::Format_RGB32);
-    esperada.fill(Papel);
-    QPainter pintor(&esperada);
-    pintor.setFont(visor.font());
-    pintor.setPen(ColorTexto);
-    QRect marco;
-    pintor.drawText(QRect(0, 0, 600, 350), Qt::AlignCenter,
-                    QStringLiteral("Escriba una función en f0(X), por ejemplo SIN(X)"), &marco);
-    pintor.end();
-    EXPECT_EQ(imagen.copy(marco), esperada.copy(marco));
+    Rótulo esperado;
+    esperado.setFont(visor.font());
+    esperado.setFixedSize(visor.size());
+    esperado.setAttribute(Qt::WA_OpaquePaintEvent, visor.testAttribute(Qt::WA_OpaquePaintEvent));
+    const auto imagen = [](QWidget& cuál) {
+        return cuál.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage letras = imagen(esperado);
+    EXPECT_EQ(imagen(visor).copy(esperado.marco), letras.copy(esperado.marco));
 }
 
 TEST_F(TextosDeLosFormularios, LosAvisosDeLaBarraDeEstado) {
