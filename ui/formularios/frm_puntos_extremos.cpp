@@ -13,7 +13,7 @@
 namespace quiralto {
 
 FrmPuntosExtremos::FrmPuntosExtremos(Contexto& contexto, QWidget* padre)
-    : QDialog(padre), contexto_(contexto), motivo_(nullptr) {
+    : QDialog(padre), contexto_(contexto) {
     setObjectName(QStringLiteral("frmPuntosExtremos"));
     setWindowTitle(QStringLiteral("Establecimiento de puntos extremos"));
     auto* formulario = new QFormLayout(this);

@@ -47,7 +47,7 @@ private:
 
     Contexto& contexto_;
     std::array<CajaFormula*, 4> txtPuntosExtremos_{};
-    QLabel* motivo_;
+    QLabel* motivo_ = nullptr;
     QTimer pausa_; // runs while something is being typed
 };
 
