@@ -101,7 +101,7 @@ std::string EnCifras(const Piezas& p) {
     if (cantidad <= p.exponente + 1)
         return signo + p.cifras +
                std::string(static_cast<std::size_t>(p.exponente + 1 - cantidad), '0');
-    const auto enteras = static_cast<std::size_t>(p.exponente + 1);
+    const std::size_t enteras = static_cast<std::size_t>(p.exponente) + 1;
     return signo + p.cifras.substr(0, enteras) + '.' + p.cifras.substr(enteras);
 }
 
