@@ -36,8 +36,7 @@ public:
     std::size_t Incógnitas() const { return líderes_.size(); }
 
     // Once eliminated: an entry of a row over that of the unknown with which it leads; column
-    // Incógnitas() is the constant. Where Doubles have rounded, an entry
-    // that rounds to 0 gives 0.
+    // Incógnitas() is the constant. Where Doubles have rounded, an entry that rounds to 0 gives 0.
     Coeficiente Cociente(std::size_t fila, std::size_t columna, std::size_t líder) const {
         return matriz_->Cociente(fila, columna, líder);
     }
