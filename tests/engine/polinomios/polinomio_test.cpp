@@ -181,7 +181,10 @@ TEST_F(Polinomios, LoQueSeSaleDelRangoEsUnDesbordamiento) {
     std::string divisor = "X^100000";
     for (int i = 1; i <= 930; ++i)
         divisor += "+X^" + std::to_string(i * i / 9 + i);
+    int pasos = 0;
+    banco.vigilante.continúa = [&] { return ++pasos > 0; };
     EXPECT_EQ(número([&] { DividePolinomios(banco.contexto, Lee("X^165000"), Lee(divisor)); }), 14);
+    EXPECT_LT(pasos, 1000); // and not once all of it has been divided
 }
 
 TEST_F(Polinomios, MásTérminosDeLosQueSeGuardanEsElError14) {
