@@ -134,19 +134,19 @@ Términos DevUnCociente(TablaSímbolos& tabla, const Términos& suma) {
     return lados.numerador.empty() ? Términos() : Cierra(tabla, DevFracción(tabla, lados));
 }
 
-// Numbers that the text cuts can make one side a multiple of the other: what is written is reduced.
+// Numbers that the text cuts can make one side a multiple of the other: what is written is reduced,
+// and cut again; the whole numbers become less each time.
 std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio) {
     if (lados.numerador.empty())
         return "0";
     Iguala(tabla, lados, sitio);
     Lados escritos = DevEscritos(tabla, lados, sitio);
-    const bool sonIguales =
-        escritos.numerador == lados.numerador && escritos.denominador == lados.denominador;
-    if (!sonIguales && !escritos.numerador.empty()) {
-        if (!EsNúmero(escritos.denominador))
-            escritos = DevLados(tabla, DevFracción(tabla, escritos), 1);
-        Iguala(tabla, escritos, sitio);
-        escritos = DevEscritos(tabla, std::move(escritos), sitio);
+    while (escritos != lados && !escritos.numerador.empty()) {
+        tabla.contexto.Vigila();
+        lados = EsNúmero(escritos.denominador) ? std::move(escritos)
+                                               : DevLados(tabla, DevFracción(tabla, escritos), 1);
+        Iguala(tabla, lados, sitio);
+        escritos = DevEscritos(tabla, lados, sitio);
     }
     if (EsUno(escritos.denominador))
         return EscribeSuma(tabla, escritos.numerador);

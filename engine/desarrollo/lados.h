@@ -11,6 +11,8 @@ namespace quiralto {
 struct Lados {
     Términos numerador;
     Términos denominador;
+
+    bool operator==(const Lados&) const = default;
 };
 
 // The sides of f/divisor.

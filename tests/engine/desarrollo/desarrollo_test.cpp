@@ -147,6 +147,11 @@ TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
     };
     for (const Caso& caso : casos)
         Comprueba(caso);
+    // Cut once they have 8 in common, and cut again 16.
+    const char* const dosVeces =
+        "(5.6085780288426E+21-1.89963522797765E+18*X^5+257363915118310*X^10"
+        "-17433922005*X^15+590490*X^20-8*X^25)/(1.5506596534144E+26*3^.5)";
+    Comprueba({"(1/4-X^5/59049)^5/27/3^.5", dosVeces, dosVeces});
 }
 
 TEST(Desarrollo, CalculaOConservaLasPotencias) {
