@@ -8,6 +8,7 @@
 #include "engine/polinomios/mcd.h"
 #include "engine/polinomios/raices_exactas.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace quiralto {
@@ -19,6 +20,13 @@ Polinomio DerivaExacto(const PolinomioExacto& p) {
         if (exponente != 0)
             derivada.push_back({exponente - 1, coeficiente * Entero::DesdeDouble(exponente)});
     return DevExacto(std::move(derivada), p.denominador);
+}
+
+// Of a polynomial that is not 0.
+double DevMenorExponente(const Polinomio& p) {
+    const PolinomioExacto* const exacto = SiExacto(p);
+    return exacto != nullptr ? exacto->términos.back().exponente
+                             : std::get<PolinomioReal>(p).back().exponente;
 }
 
 // The polynomial with the same roots, each of them once: only there does the sign change at every
@@ -47,6 +55,13 @@ std::optional<Denso> SiDenso(const Polinomio& simple) {
     return denso;
 }
 
+// A root that is not looked at exactly: the number of its text where nothing is left there,
+// otherwise all of its digits.
+double DevRaízEnDouble(Contexto& contexto, Programa& programa, const Solución& solución) {
+    const auto valor = DevValor(contexto, programa, solución.redondeada);
+    return valor == 0.0 ? solución.redondeada : solución.raíz;
+}
+
 // The roots from left to right; never more than the degree, whatever rounding makes of the signs.
 // Where signs can be taken exactly, none that is no root and none twice.
 std::vector<Raíz> DevRaíces(Contexto& contexto, const Polinomio& p, double a, double b, double h) {
@@ -62,7 +77,7 @@ std::vector<Raíz> DevRaíces(Contexto& contexto, const Polinomio& p, double a, 
             break;
         comienzo = DevSiguienteComienzo(*solución, h);
         if (!denso) {
-            raíces.push_back({Val(solución->texto), std::nullopt});
+            raíces.push_back({DevRaízEnDouble(contexto, programa, *solución), std::nullopt});
             continue;
         }
         const auto exacta = DevRaízExacta(contexto, *denso, solución->raíz, h);
@@ -100,7 +115,7 @@ Polinomio QuitaRaíces(Contexto& contexto, const Polinomio& p, const std::vector
     for (const Raíz& raíz : raíces)
         producto = MultiplicaPolinomios(
             contexto, producto, RestaPolinomios(DevPotenciaDeX(1), DevConstante(raíz.valor)));
-    return DividePolinomios(contexto, p, producto).cociente;
+    return DivideSinRedondear(contexto, p, producto).cociente;
 }
 
 std::string TextoCoeficientePrincipal(const Contexto& contexto, const Polinomio& p) {
@@ -117,13 +132,17 @@ std::string FactorizaPolinomio(Contexto& contexto, const Polinomio& polinomio, d
     const Polinomio p = QuitaPrincipalesNulos(contexto, polinomio);
     if (EsConstante(p) || !TieneExponentesNaturales(p))
         return EscribePolinomio(contexto, p);
-    const std::vector<Raíz> raíces = DevRaíces(contexto, p, a, b, h);
+    // A power of X would come to 0 in Doubles where X is not 0.
+    const double potencia = std::max(DevMenorExponente(p) - 1, 0.0);
+    const Polinomio simple = MultiplicaPolinomios(contexto, p, DevPotenciaDeX(-potencia));
+    const std::vector<Raíz> raíces = DevRaíces(contexto, simple, a, b, h);
     if (raíces.empty())
         return EscribePolinomio(contexto, p);
     const std::string factores = TextoFactores(contexto, raíces);
     if (static_cast<double>(raíces.size()) == DevGrado(p))
         return TextoCoeficientePrincipal(contexto, p) + factores;
-    const Polinomio cociente = QuitaRaíces(contexto, p, raíces);
+    const Polinomio cociente = MultiplicaPolinomios(contexto, QuitaRaíces(contexto, simple, raíces),
+                                                    DevPotenciaDeX(potencia));
     return factores + "*(" + EscribePolinomio(contexto, cociente) + ')';
 }
 

@@ -1,8 +1,11 @@
 #include "engine/polinomios/factores.h"
 
+#include "engine/numeros/numero.h"
 #include "tests/apoyo.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace quiralto {
 namespace {
@@ -63,6 +66,23 @@ TEST_F(Factorización, UnaRaízRepetidaSeHallaUnaSolaVez) {
     EXPECT_EQ(Factoriza("X^6-6*X^5+15*X^4-20*X^3+15*X^2-6*X+1", .99, 1.01),
               "(X-1)*(X^5-5*X^4+10*X^3-10*X^2+5*X-1)");
     EXPECT_EQ(Factoriza("X^4-2*X^3+X^2"), "X*(X-1)*(X^2-X)");
+}
+
+// Above the degree that is looked at exactly. X^1000 is 0 in Doubles wherever |X| < .47.
+TEST_F(Factorización, NoTomaPorRaícesDondeUnaPotenciaSeQuedaEn0) {
+    EXPECT_EQ(Factoriza("X^1001-X^1000", -3, 3), "X*(X-1)*(X^999)");
+    EXPECT_EQ(Factoriza("X^1001-2*X^1000", -1, 1), "X*(X^1000-2*X^999)");
+    EXPECT_EQ(Factoriza("X^1002-2*X^1000"), "(X+1.41421356)*X*(X-1.41421356)*(X^999)");
+}
+
+TEST_F(Factorización, DivideEntreTodosLosDígitosDeUnaRaízDeGradoAlto) {
+    const std::string factores = Factoriza("X^1001-2", 0, 2);
+    EXPECT_TRUE(factores.starts_with("(X-1.00069269)*(X^1000+1.00069269*X^999+1.00138587*X^998+"));
+    const std::string último = TextoNúmero(Redondea(std::pow(2, 1000.0 / 1001), 8));
+    EXPECT_TRUE(factores.ends_with("*X+" + último + ")")) << último;
+    const std::string conMedio = Factoriza("2*X^1500-X^1499-2*X+1", 0, 2);
+    EXPECT_TRUE(conMedio.starts_with("(X-.5)*(X-1)*(2*X^1498+2*X^1497+"));
+    EXPECT_TRUE(conMedio.ends_with("+2*X^2+2*X+2)"));
 }
 
 TEST_F(Factorización, SiempreTermina) {
