@@ -94,14 +94,15 @@ FracciónAbierta SinSigno(FracciónAbierta f) {
     return f;
 }
 
-// Whether a side that has been multiplied out holds nothing that belongs to the other.
-bool EstáCerrado(const TablaSímbolos& tabla, const Términos& lado) {
-    return !HayCocientes(tabla, lado) && !HayNegativos(tabla, lado);
+// Whether sides that have been multiplied out hold nothing that belongs to the other.
+bool EstánCerrados(const TablaSímbolos& tabla, const Lados& lados) {
+    const auto cerrado = [&](const Términos& lado) {
+        return !HayCocientes(tabla, lado) && !HayNegativos(tabla, lado);
+    };
+    return cerrado(lados.numerador) && cerrado(lados.denominador);
 }
 
-} // namespace
-
-Lados DevLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& divisor) {
+Lados MultiplicaLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& divisor) {
     FracciónAbierta denominador{.coeficiente = 1, .arriba = std::move(f.abajo)};
     f = SinSigno(std::move(f));
     f.abajo.clear();
@@ -110,8 +111,28 @@ Lados DevLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& div
     Lados lados{Cierra(tabla, f), Cierra(tabla, denominador)};
     if (lados.denominador.empty())
         throw ErrorEjecución(DivisiónPorCero);
-    if (EstáCerrado(tabla, lados.numerador) && EstáCerrado(tabla, lados.denominador))
-        return lados;
+    return lados;
+}
+
+// Whether a product of sums can have factors that none of them has: squares of roots.
+bool HayQueReducir(const TablaSímbolos& tabla, const FracciónAbierta& f) {
+    if (!tabla.HayRaíces() || f.abajo.empty() || f.sumas.empty())
+        return false;
+    return f.sumas.size() > 1 || f.sumas[0].exponente > 1 || !f.arriba.empty();
+}
+
+} // namespace
+
+Lados DevLados(TablaSímbolos& tabla, FracciónAbierta f, const Coeficiente& divisor) {
+    const bool hayQueReducir = HayQueReducir(tabla, f);
+    Lados lados = MultiplicaLados(tabla, std::move(f), divisor);
+    if (EstánCerrados(tabla, lados)) {
+        if (!hayQueReducir || lados.numerador.empty())
+            return lados;
+        lados = MultiplicaLados(tabla, DevFracción(tabla, lados), 1);
+        if (EstánCerrados(tabla, lados))
+            return lados;
+    }
     const GuardaProfundidad guarda(tabla);
     const auto cierra = [&](const Términos& lado) {
         return SinNegativos(tabla, SobreUnDenominador(tabla, lado));

@@ -125,6 +125,19 @@ TEST(Desarrollo, NoPierdeDígitosDentroDeFuncionesBasesYExponentes) {
     EXPECT_EQ(Desarrolla(banco.contexto, Clase::Simplificado, "SIN(.5*X)"), "SIN(X/2)");
 }
 
+// SQR(4*X)^2 is a factor that the powers' terms share with the denominator.
+TEST(Desarrollo, CancelaLoQueLasRaícesMultiplicadasDejanEnComún) {
+    const Caso casos[] = {
+        {"(X-X/SQR(4*X)-7/X)^2", "(4*X^4-2*X^3*SQR(4*X)-56*X^2+X^3+14*X*SQR(4*X)+196)/(4*X^2)",
+         "X^2-2*X^2/SQR(4*X)-14+.25*X+14/SQR(4*X)+49/X^2"},
+        {"SIN((X*SLN(65)+X/SQR(4*X))^2/(X*SLN(65)+X))",
+         "SIN((4*SLN(65)^2*X+2*SLN(65)*SQR(4*X)+1)/(4*SLN(65)+4))",
+         "SIN((4*SLN(65)^2*X+2*SLN(65)*SQR(4*X)+1)/(4*SLN(65)+4))"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
 TEST(Desarrollo, NoDejaPotenciasDeCocientesNiNúmerosEnUnaPotenciaNegativa) {
     const Caso casos[] = {
         {"(SQR(.5/X)+1)^2", "(1+4*X*SQR(1/(2*X))+2*X)/(2*X)", "1/(2*X)+2*SQR(1/(2*X))+1"},
