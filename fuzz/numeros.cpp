@@ -30,10 +30,12 @@ void CompruebaLagrange(BancoDeFuzz& banco, Gramática& gramática) {
     const auto texto = corrida.TextoTras("'");
     if (!texto || texto->starts_with("Polinomio"))
         return;
-    const Programa programa = CompilaEscrito(*texto);
+    const std::optional<Programa> programa = CompilaEscrito(*texto);
+    if (!programa)
+        return;
     for (const Punto& punto : puntos) {
         const double x = std::stod(punto.x);
-        const auto valor = EvaluadorAcotado(programa, {}).Evalúa(x);
+        const auto valor = EvaluadorAcotado(*programa, {}).Evalúa(x);
         // Every coefficient is rounded, those too that are then not written.
         long double cota = 0;
         for (std::size_t k = 0; k < puntos.size(); ++k)

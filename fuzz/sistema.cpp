@@ -49,8 +49,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t lon
         const std::size_t igual = ecuación.find('=');
         const std::string resta =
             ecuación.substr(0, igual) + "-(" + ecuación.substr(igual + 1) + ")";
-        const Programa programa = CompilaEscrito(SimplificaSignos(Sustituye(resta, soluciones)));
-        const auto valor = EvaluadorAcotado(programa, DevRedondeo(8, true)).Evalúa(0);
+        const auto programa = CompilaEscrito(SimplificaSignos(Sustituye(resta, soluciones)));
+        if (!programa)
+            continue;
+        const auto valor = EvaluadorAcotado(*programa, DevRedondeo(8, true)).Evalúa(0);
         // Coefficients that round to 0 are none; what is left of them is below this.
         constexpr long double Resto = 1e-6L;
         if (valor)
