@@ -77,6 +77,13 @@ Literal Asienta(TablaSímbolos& tabla, const Literal& literal) {
 
 namespace {
 
+// The quotient of a term becomes another, whose text is not written yet.
+void PonCociente(TablaSímbolos& tabla, Término& término, Base cociente) {
+    const Términos denominador = {{cociente.signoAbajo ? -1 : 1, cociente.denominador}};
+    cociente.texto = EscribeFracción(tabla, cociente.contenido, denominador);
+    término.literal[0].símbolo = tabla.DevBase(std::move(cociente));
+}
+
 // A negative number times a quotient with a sign below is one without either. Whether it was.
 bool QuitaSignos(TablaSímbolos& tabla, Término& término) {
     const Base* const cociente = DevCocienteDe(tabla, término.literal);
@@ -85,8 +92,7 @@ bool QuitaSignos(TablaSímbolos& tabla, Término& término) {
         return false;
     Base sinSigno = *cociente;
     sinSigno.signoAbajo = false;
-    sinSigno.texto = EscribeFracción(tabla, sinSigno.contenido, {{1, sinSigno.denominador}});
-    término.literal[0].símbolo = tabla.DevBase(std::move(sinSigno));
+    PonCociente(tabla, término, std::move(sinSigno));
     término.coeficiente.CambiaSigno();
     return true;
 }
@@ -117,12 +123,39 @@ bool SacaNúmeros(TablaSímbolos& tabla, Término& término) {
     return true;
 }
 
+// The numerator of a quotient takes the coefficient's when it is written. Where the text would cut
+// the products, what it would say is made primitive. Whether it was.
+bool CortaNumerador(TablaSímbolos& tabla, Término& término) {
+    const Base* const cociente = DevCocienteDe(tabla, término.literal);
+    if (cociente == nullptr || término.literal[0].exponente != 1)
+        return false;
+    const Coeficiente coeficiente = DevFracciónEscrita(término.coeficiente);
+    const Coeficiente factor = Coeficiente(coeficiente.Numerador(), 1).Absoluto();
+    if (factor.EsUno())
+        return false;
+    Base cortado = *cociente;
+    EscalaSuma(cortado.contenido, factor);
+    bool corta = false;
+    for (Término& suyo : cortado.contenido) {
+        Coeficiente escrito = DevEscritoDentro(tabla, suyo.coeficiente);
+        corta = corta || escrito != suyo.coeficiente;
+        suyo.coeficiente = std::move(escrito);
+    }
+    if (!corta)
+        return false;
+    término.coeficiente = coeficiente / factor * SacaContenido(cortado.contenido);
+    PonCociente(tabla, término, std::move(cortado));
+    return true;
+}
+
 } // namespace
 
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma) {
     bool otros = false; // literal parts have changed
     for (Término& término : suma) {
         otros = QuitaSignos(tabla, término) || SacaNúmeros(tabla, término) || otros;
+        while (CortaNumerador(tabla, término))
+            otros = true;
         if (!EstánAsentados(tabla, término.literal)) {
             const GuardaProfundidad guarda(tabla);
             término.literal = Asienta(tabla, término.literal);

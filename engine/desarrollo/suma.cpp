@@ -3,7 +3,6 @@
 #include "engine/base/fallos.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace quiralto {
 
@@ -50,45 +49,10 @@ Coeficiente DevContenido(const Términos& suma) {
     return contenido;
 }
 
-namespace {
-
-constexpr int DígitosDeUnTexto = 15;
-
-// The power of ten that leaves the greatest coefficient with the digits of a text; 1 where it has
-// no more.
-Coeficiente DevEscalaDeSobra(const Términos& suma) {
-    std::size_t bits = 0;
-    for (const Término& término : suma)
-        bits = std::max(bits, término.coeficiente.Numerador().Bits());
-    constexpr std::size_t BitsDeUnTexto = 49; // below 10^15
-    constexpr double BitsPorDígito = 3.3219280948873623;
-    if (bits <= BitsDeUnTexto)
-        return 1;
-    const double sobran = static_cast<double>(bits) / BitsPorDígito - DígitosDeUnTexto;
-    return {DevPotenciaDeDiez(static_cast<int>(std::ceil(sobran))), 1};
-}
-
-} // namespace
-
 Coeficiente SacaContenido(Términos& suma) {
-    const auto inexacto = [](const Término& t) { return !t.coeficiente.EsExacto(); };
-    if (std::ranges::any_of(suma, inexacto))
-        return 1;
     const Coeficiente contenido = DevContenido(suma);
     EscalaSuma(suma, contenido.Inverso());
-    const Coeficiente escala = DevEscalaDeSobra(suma);
-    if (escala.EsUno())
-        return contenido;
-    Términos corta = suma;
-    for (Término& término : corta) {
-        término.coeficiente = (término.coeficiente / escala).Redondeado(0);
-        if (término.coeficiente.EsCero())
-            return contenido;
-    }
-    const Coeficiente deCorta = DevContenido(corta);
-    EscalaSuma(corta, deCorta.Inverso());
-    suma = std::move(corta);
-    return contenido * escala * deCorta;
+    return contenido;
 }
 
 } // namespace quiralto

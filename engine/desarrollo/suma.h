@@ -108,9 +108,8 @@ void EscalaSuma(Términos& suma, const Coeficiente& factor);
 // is not exact. The sum is not empty.
 Coeficiente DevContenido(const Términos& suma);
 
-// Divides a sum of one side of a fraction by a positive number, which is returned, so that its
-// coefficients are whole and have no common factor. Where they would have more digits than a text
-// has, and none is too small beside the others, they keep 15 digits of the greatest.
+// Divides a sum by its content, which is returned, so that its coefficients are whole and have no
+// common factor.
 Coeficiente SacaContenido(Términos& suma);
 
 } // namespace quiralto

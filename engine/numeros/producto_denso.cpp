@@ -26,7 +26,7 @@ Entero DesdeEnteroDoble(EnteroDoble valor) {
     constexpr int Bits = 62;
     const auto alto = static_cast<std::int64_t>(valor >> Bits);
     const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));
-    return alto == 0 ? Entero(bajo) : Entero(alto).Desplazado(Bits) + Entero(bajo);
+    return Entero(alto).Desplazado(Bits) + Entero(bajo);
 }
 
 class Transformada {

@@ -274,6 +274,15 @@ TEST(Sistemas, CanceladosDejanLaHojaComoEstaba) {
     }
 }
 
+// A million lines take long to be read, too.
+TEST(Sistemas, PreguntanAntesDeCadaLínea) {
+    Banco banco;
+    banco.vigilante.continúa = [] { return false; };
+    Hoja hoja("X(1)=1=2");
+    EjecutaInstrucciones(banco.contexto, hoja, Texto);
+    EXPECT_TRUE(banco.TomaMensajes().empty()); // the line has not been looked at
+}
+
 TEST(Sistemas, SustituyenLasIncógnitas) {
     EXPECT_EQ(Sustituye1("X(3)+x(3)*EXP(2)-X"), "SLN(3)+SLN(3)*EXP(2)-X");
 }

@@ -1,9 +1,13 @@
+#include "engine/desarrollo/division_exacta.h"
+#include "engine/desarrollo/multinomio.h"
 #include "engine/desarrollo/separa.h"
 #include "engine/lenguaje/deriva.h"
 #include "tests/apoyo.h"
 #include "tests/engine/desarrollo/desarrolla.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace quiralto {
 namespace {
@@ -152,6 +156,28 @@ TEST(Desarrollo, NoDejaPotenciasDeCocientesNiNúmerosEnUnaPotenciaNegativa) {
     EXPECT_THROW(Desarrolla(banco.contexto, Clase::Simplificado, "SQR(0)^-2"), ErrorEjecución);
 }
 
+// What differs in one factor, at the points of one sign, or in part of an exponent is not alike.
+TEST(Desarrollo, NoFundeLoQueSoloSeParece) {
+    const Caso casos[] = {
+        {"(EXP(X)*SIN(X))^.5", "(EXP(X)*SIN(X))^.5", "(EXP(X)*SIN(X))^.5"},
+        {"X^2*X^SLN(65)+X^2", "X^(SLN(65)+2)+X^2", "X^(SLN(65)+2)+X^2"},
+        {"SQR(2*X^2+2*X*SQR(X^2))-SQR(4*X^2)", "SQR(2*X^2+2*X*SQR(X^2))-SQR(4*X^2)",
+         "SQR(2*X^2+2*X*SQR(X^2))-SQR(4*X^2)"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
+TEST(Desarrollo, FundeLoQueSeHaceSemejante) {
+    const Caso casos[] = {
+        {"LOG(EXP(X))+X", "2*X", "2*X"},
+        {"SQR(X+.5)^-3+(2*X+1)^-1*SQR(X+.5)^-1", "3/(2*X*SQR(X+.5)+SQR(X+.5))",
+         "3*(2*X+1)^-1*SQR(X+.5)^-1"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
 TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
     const Caso casos[] = {
         {"1E20-4/(X+1)", "1E+20", "1E+20-4/(X+1)"},
@@ -160,6 +186,9 @@ TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
     };
     for (const Caso& caso : casos)
         Comprueba(caso);
+    // Every number keeps fifteen digits of its own, however large the others are.
+    const char* const cortado = "(44*SLN(65)+1.46666666666668E+16*SLN(66))/(SLN(67)+1)";
+    Comprueba({"(SLN(65)+333333333333337*SLN(66))*44/(SLN(67)+1)", cortado, cortado});
     // Cut once they have 8 in common, and cut again 16.
     const char* const dosVeces =
         "(5.6085780288426E+21-1.89963522797765E+18*X^5+257363915118310*X^10"
@@ -461,6 +490,31 @@ TEST(Desarrollo, SeCancela) {
     banco.vigilante.continúa = [&] { return ++preguntas < 100; };
     EXPECT_THROW(Desarrolla(banco.contexto, Clase::Completo, ConSln("(A+B+C+D)^40*(A+B+C+D)^40")),
                  OrdenCancelada);
+}
+
+// The watcher is asked all along, not only before and behind.
+TEST(Desarrollo, PreguntaMientrasElevaYDivide) {
+    Banco banco;
+    TablaSímbolos tabla(banco.contexto, ClaseDesarrollo::Simplificado);
+    int preguntas = 0;
+    banco.vigilante.continúa = [&] { return ++preguntas > 0; };
+    Términos suma;
+    for (const char letra : {'A', 'B', 'C', 'D'})
+        suma.push_back({1, {{tabla.DevVariable(letra, std::string(1, letra)), 1}}});
+    std::ranges::sort(suma, [&](const Término& a, const Término& b) {
+        return tabla.Precede(a.literal[0].símbolo, b.literal[0].símbolo);
+    });
+    const auto potencia = ElevaPorMultinomio(tabla, suma, 50);
+    ASSERT_TRUE(potencia.has_value());
+    EXPECT_EQ(potencia->size(), 23426U);
+    EXPECT_GE(preguntas, 5);
+    preguntas = 0;
+    const IdSímbolo x = tabla.DevVariable('X', "X");
+    const auto cociente =
+        DivideExacta(tabla, {{1, {{x, 100'000}}}, {-1, {}}}, {{1, {{x, 1}}}, {-1, {}}});
+    ASSERT_TRUE(cociente.has_value());
+    EXPECT_EQ(cociente->size(), 100'000U);
+    EXPECT_GE(preguntas, 90);
 }
 
 // Twice the work with every level would not end.
