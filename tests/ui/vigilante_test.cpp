@@ -65,6 +65,7 @@ TEST(VigilanteVentana, TrasUnSegundoMuestraElDiálogoYSeCancela) {
 
 // Handling events at every question would cost more than the work itself.
 TEST(VigilanteVentana, NoAtiendeALaVentanaEnCadaPregunta) {
+    const DiálogosPermitidos permitidos;
     VigilanteVentana vigilante(0ms);
     const VigilanteVentana::Guardia guardia(vigilante);
     int atenciones = 0;
