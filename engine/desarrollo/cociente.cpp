@@ -48,20 +48,15 @@ struct NumeradorEscrito {
     Términos suma;
 };
 
-// Numbers that the text cuts can have a factor in common again, which goes out too: the smallest of
-// them becomes less each time.
 NumeradorEscrito DevNumeradorEscrito(TablaSímbolos& tabla, Términos numerador) {
     Coeficiente coeficiente = SacaContenido(numerador);
     if (numerador[0].coeficiente.Signo() < 0) {
         coeficiente.CambiaSigno();
         EscalaSuma(numerador, -1);
     }
-    numerador = DevFormaInterior(tabla, std::move(numerador));
-    for (Coeficiente otro = SacaContenido(numerador); !otro.EsUno() && numerador.size() > 1;
-         otro = SacaContenido(numerador)) {
-        coeficiente *= otro;
-        numerador = DevFormaInterior(tabla, std::move(numerador));
-    }
+    numerador = DevAsentada(tabla, std::move(numerador));
+    coeficiente *= SacaContenido(numerador);
+    CortaNumerador(tabla, coeficiente, numerador);
     return {std::move(coeficiente), std::move(numerador)};
 }
 

@@ -123,39 +123,44 @@ bool SacaNúmeros(TablaSímbolos& tabla, Término& término) {
     return true;
 }
 
-// The numerator of a quotient takes the coefficient's when it is written. Where the text would cut
-// the products, what it would say is made primitive. Whether it was.
-bool CortaNumerador(TablaSímbolos& tabla, Término& término) {
+// Whether the numerator of a quotient had to be cut.
+bool CortaCociente(TablaSímbolos& tabla, Término& término) {
     const Base* const cociente = DevCocienteDe(tabla, término.literal);
     if (cociente == nullptr || término.literal[0].exponente != 1)
         return false;
-    const Coeficiente coeficiente = DevFracciónEscrita(término.coeficiente);
-    const Coeficiente factor = Coeficiente(coeficiente.Numerador(), 1).Absoluto();
-    if (factor.EsUno())
-        return false;
     Base cortado = *cociente;
-    EscalaSuma(cortado.contenido, factor);
-    bool corta = false;
-    for (Término& suyo : cortado.contenido) {
-        Coeficiente escrito = DevEscritoDentro(tabla, suyo.coeficiente);
-        corta = corta || escrito != suyo.coeficiente;
-        suyo.coeficiente = std::move(escrito);
-    }
-    if (!corta)
+    if (!CortaNumerador(tabla, término.coeficiente, cortado.contenido))
         return false;
-    término.coeficiente = coeficiente / factor * SacaContenido(cortado.contenido);
     PonCociente(tabla, término, std::move(cortado));
     return true;
 }
 
 } // namespace
 
+bool CortaNumerador(const TablaSímbolos& tabla, Coeficiente& coeficiente, Términos& numerador) {
+    for (bool algo = false;; algo = true) {
+        const Coeficiente escrito = DevFracciónEscrita(coeficiente);
+        const Coeficiente factor = Coeficiente(escrito.Numerador(), 1).Absoluto();
+        Términos cortado = numerador;
+        EscalaSuma(cortado, factor);
+        bool corta = false;
+        for (Término& suyo : cortado) {
+            Coeficiente dicho = DevEscritoDentro(tabla, suyo.coeficiente);
+            corta = corta || dicho != suyo.coeficiente;
+            suyo.coeficiente = std::move(dicho);
+        }
+        if (!corta)
+            return algo;
+        coeficiente = escrito / factor * SacaContenido(cortado);
+        numerador = std::move(cortado);
+    }
+}
+
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma) {
     bool otros = false; // literal parts have changed
     for (Término& término : suma) {
-        otros = QuitaSignos(tabla, término) || SacaNúmeros(tabla, término) || otros;
-        while (CortaNumerador(tabla, término))
-            otros = true;
+        for (const auto regla : {QuitaSignos, SacaNúmeros, CortaCociente})
+            otros = regla(tabla, término) || otros;
         if (!EstánAsentados(tabla, término.literal)) {
             const GuardaProfundidad guarda(tabla);
             término.literal = Asienta(tabla, término.literal);

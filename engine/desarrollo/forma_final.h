@@ -18,4 +18,9 @@ Términos DevFormaInterior(TablaSímbolos& tabla, Términos suma);
 // The sum with its exponents settled and its own coefficients as they are.
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma);
 
+// A numerator is written with the numerator of its coefficient multiplied in. Where the text would
+// cut a number of that, both become what it says, the numerator without a common factor: as often
+// as what is left is cut again; the numbers become less each time. Whether there was one.
+bool CortaNumerador(const TablaSímbolos& tabla, Coeficiente& coeficiente, Términos& numerador);
+
 } // namespace quiralto

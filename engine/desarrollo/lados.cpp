@@ -156,18 +156,21 @@ Términos DevUnCociente(TablaSímbolos& tabla, const Términos& suma) {
 }
 
 // Numbers that the text cuts can make one side a multiple of the other: what is written is reduced,
-// and cut again; the whole numbers become less each time.
+// and cut again, until it stays. Each time there is less to be reduced.
 std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio) {
     if (lados.numerador.empty())
         return "0";
     Iguala(tabla, lados, sitio);
     Lados escritos = DevEscritos(tabla, lados, sitio);
-    while (escritos != lados && !escritos.numerador.empty()) {
-        tabla.contexto.Vigila();
-        lados = EsNúmero(escritos.denominador) ? std::move(escritos)
+    constexpr int MáximasPasadas = 64;
+    for (int i = 0; escritos != lados && !escritos.numerador.empty() && i < MáximasPasadas; ++i) {
+        lados = EsNúmero(escritos.denominador) ? escritos
                                                : DevLados(tabla, DevFracción(tabla, escritos), 1);
         Iguala(tabla, lados, sitio);
-        escritos = DevEscritos(tabla, lados, sitio);
+        Lados otros = DevEscritos(tabla, lados, sitio);
+        if (otros == escritos)
+            break;
+        escritos = std::move(otros);
     }
     if (EsUno(escritos.denominador))
         return EscribeSuma(tabla, escritos.numerador);

@@ -189,6 +189,14 @@ TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
     // Every number keeps fifteen digits of its own, however large the others are.
     const char* const cortado = "(44*SLN(65)+1.46666666666668E+16*SLN(66))/(SLN(67)+1)";
     Comprueba({"(SLN(65)+333333333333337*SLN(66))*44/(SLN(67)+1)", cortado, cortado});
+    // Half of the second number has sixteen digits.
+    const char* const deQuince = "(2*SLN(65)+3.31363636363637E+23*SLN(66))/(SLN(67)+1)";
+    Comprueba({deQuince, deQuince, deQuince});
+    const char* const cuadrado = "1/(2*SLN(65)+3.31363636363637E+23*SLN(66))^2";
+    Comprueba({cuadrado,
+               "1/(4*SLN(65)^2+1.32545454545455E+24*SLN(65)*SLN(66)+"
+               "1.09801859504133E+47*SLN(66)^2)",
+               "1/(4*(SLN(65)+1.65681818181819E+23*SLN(66))^2)"});
     // Cut once they have 8 in common, and cut again 16.
     const char* const dosVeces =
         "(5.6085780288426E+21-1.89963522797765E+18*X^5+257363915118310*X^10"
