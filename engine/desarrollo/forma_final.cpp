@@ -1,7 +1,6 @@
 #include "engine/desarrollo/forma_final.h"
 
 #include "engine/desarrollo/escribe.h"
-#include "engine/desarrollo/fraccion_abierta.h"
 #include "engine/desarrollo/numero_escrito.h"
 #include "engine/desarrollo/potencia.h"
 #include "engine/desarrollo/producto.h"
@@ -97,32 +96,6 @@ bool QuitaSignos(TablaSímbolos& tabla, Término& término) {
     return true;
 }
 
-// Groups to a whole exponent below 0 give out the number that their terms have in common. Whether
-// one had it.
-bool SacaNúmeros(TablaSímbolos& tabla, Término& término) {
-    if (!tabla.HayBasesReducibles())
-        return false;
-    FracciónAbierta f{.coeficiente = término.coeficiente};
-    for (std::size_t i = 0; i < término.literal.size(); ++i)
-        if (término.literal[i].exponente.Signo() < 0 &&
-            EsPotenciaEntera(tabla, término.literal, i) &&
-            tabla.BaseDe(término.literal[i].símbolo).contenido.size() > 1)
-            f.arriba.push_back(término.literal[i]);
-    if (f.arriba.empty())
-        return false;
-    const Literal antes = f.arriba;
-    AbreGrupos(tabla, f);
-    if (f.arriba == antes || !f.sumas.empty() || !f.abajo.empty())
-        return false;
-    Literal resto;
-    for (const Factor& factor : término.literal)
-        if (std::ranges::find(antes, factor) == antes.end())
-            resto.push_back(factor);
-    MultiplicaLiterales(tabla, resto, f.arriba, término.literal);
-    término.coeficiente = f.coeficiente;
-    return true;
-}
-
 // Whether the numerator of a quotient had to be cut.
 bool CortaCociente(TablaSímbolos& tabla, Término& término) {
     const Base* const cociente = DevCocienteDe(tabla, término.literal);
@@ -159,7 +132,7 @@ bool CortaNumerador(const TablaSímbolos& tabla, Coeficiente& coeficiente, Térm
 Términos DevAsentada(TablaSímbolos& tabla, Términos suma) {
     bool otros = false; // literal parts have changed
     for (Término& término : suma) {
-        for (const auto regla : {QuitaSignos, SacaNúmeros, CortaCociente})
+        for (const auto regla : {QuitaSignos, CortaCociente})
             otros = regla(tabla, término) || otros;
         if (!EstánAsentados(tabla, término.literal)) {
             const GuardaProfundidad guarda(tabla);

@@ -1,5 +1,6 @@
 #include "commands/ecuaciones.h"
 #include "commands/ordenes.h"
+#include "commands/sistemas.h"
 #include "engine/evaluacion/evalua.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/numeros/numero.h"
@@ -277,10 +278,12 @@ TEST(Sistemas, CanceladosDejanLaHojaComoEstaba) {
 // A million lines take long to be read, too.
 TEST(Sistemas, PreguntanAntesDeCadaLínea) {
     Banco banco;
-    banco.vigilante.continúa = [] { return false; };
-    Hoja hoja("X(1)=1=2");
-    EjecutaInstrucciones(banco.contexto, hoja, Texto);
-    EXPECT_TRUE(banco.TomaMensajes().empty()); // the line has not been looked at
+    int quedan = 2;
+    banco.vigilante.continúa = [&] { return quedan-- > 0; };
+    Hoja hoja("");
+    hoja.líneas = {"X(1)=1", "X(1)=1", "X(1)=1=2"};
+    EXPECT_THROW(ResolverSistemaLineal1(banco.contexto, hoja), OrdenCancelada);
+    EXPECT_TRUE(banco.TomaMensajes().empty()); // the third line has not been looked at
 }
 
 TEST(Sistemas, SustituyenLasIncógnitas) {

@@ -137,6 +137,9 @@ TEST(Desarrollo, CancelaLoQueLasRaícesMultiplicadasDejanEnComún) {
         {"SIN((X*SLN(65)+X/SQR(4*X))^2/(X*SLN(65)+X))",
          "SIN((4*SLN(65)^2*X+2*SLN(65)*SQR(4*X)+1)/(4*SLN(65)+4))",
          "SIN((4*SLN(65)^2*X+2*SLN(65)*SQR(4*X)+1)/(4*SLN(65)+4))"},
+        {"SIN((SLN(65)+SQR(X))*(SLN(65)-SQR(X))*(SLN(66)+1)/(SLN(65)^2-X)^2)",
+         "SIN((SLN(65)^2*SLN(66)+SLN(65)^2-SLN(66)*X-X)/(SLN(65)^4-2*SLN(65)^2*X+X^2))",
+         "SIN((SLN(66)+1)/(SLN(65)^2-X))"},
     };
     for (const Caso& caso : casos)
         Comprueba(caso);
