@@ -2,6 +2,7 @@
 
 #include "engine/lenguaje/sintaxis.h"
 #include "engine/numeros/numero.h"
+#include "engine/polinomios/denso.h"
 #include "engine/polinomios/division.h"
 #include "tests/apoyo.h"
 
@@ -12,6 +13,16 @@
 
 namespace quiralto {
 namespace {
+
+// The number of the fault that some work ends with; 0 for none.
+int DevFallo(const auto& trabajo) {
+    try {
+        trabajo();
+        return 0;
+    } catch (const ErrorEjecución& error) {
+        return error.Número();
+    }
+}
 
 class Polinomios : public testing::Test {
 protected:
@@ -155,35 +166,28 @@ TEST_F(Polinomios, UnSumandoPequeñoNoSePierdeEnUnoGrande) {
 
 TEST_F(Polinomios, LoQueSeSaleDelRangoEsUnDesbordamiento) {
     const Polinomio grande = Lee("1E+308*X^2");
-    const auto número = [&](const auto& trabajo) {
-        try {
-            trabajo();
-            return 0;
-        } catch (const ErrorEjecución& error) {
-            return error.Número();
-        }
-    };
-    EXPECT_EQ(número([&] { MultiplicaPolinomios(banco.contexto, grande, grande); }), 6);
-    EXPECT_EQ(número([&] { SumaPolinomios(grande, grande); }), 6);
-    EXPECT_EQ(número([&] { // the same for real ones
+    EXPECT_EQ(DevFallo([&] { MultiplicaPolinomios(banco.contexto, grande, grande); }), 6);
+    EXPECT_EQ(DevFallo([&] { SumaPolinomios(grande, grande); }), 6);
+    EXPECT_EQ(DevFallo([&] { // the same for real ones
                   const Polinomio real = AReal(grande);
                   MultiplicaPolinomios(banco.contexto, real, real);
               }),
               6);
     // An exponent that a Double cannot hold: X^1E+20 * X
-    EXPECT_EQ(número([&] {
+    EXPECT_EQ(DevFallo([&] {
                   MultiplicaPolinomios(banco.contexto, DevPotenciaDeX(1e20), DevPotenciaDeX(1));
               }),
               6);
-    EXPECT_EQ(número([&] { LeePolinomio("1E+400*X"); }), 6);
-    EXPECT_EQ(número([&] { DividePolinomios(banco.contexto, grande, Lee("0")); }), 11);
+    EXPECT_EQ(DevFallo([&] { LeePolinomio("1E+400*X"); }), 6);
+    EXPECT_EQ(DevFallo([&] { DividePolinomios(banco.contexto, grande, Lee("0")); }), 11);
     // Every step leaves terms where there were none; of the quotient there are fewer than are kept.
     std::string divisor = "X^100000";
     for (int i = 1; i <= 930; ++i)
         divisor += "+X^" + std::to_string(i * i / 9 + i);
     int pasos = 0;
     banco.vigilante.continúa = [&] { return ++pasos > 0; };
-    EXPECT_EQ(número([&] { DividePolinomios(banco.contexto, Lee("X^165000"), Lee(divisor)); }), 14);
+    EXPECT_EQ(DevFallo([&] { DividePolinomios(banco.contexto, Lee("X^165000"), Lee(divisor)); }),
+              14);
     EXPECT_LT(pasos, 1000); // and not once all of it has been divided
 }
 
@@ -195,13 +199,23 @@ TEST_F(Polinomios, MásTérminosDeLosQueSeGuardanEsElError14) {
         bajos.push_back({static_cast<double>(i * i), 1});
         altos.push_back({i * 1e6, 1});
     }
-    try {
-        MultiplicaPolinomios(banco.contexto, ReduceTérminos(banco.contexto, bajos),
-                             ReduceTérminos(banco.contexto, altos));
-        FAIL();
-    } catch (const ErrorEjecución& error) {
-        EXPECT_EQ(error.Número(), 14);
-    }
+    EXPECT_EQ(DevFallo([&] {
+                  MultiplicaPolinomios(banco.contexto, ReduceTérminos(banco.contexto, bajos),
+                                       ReduceTérminos(banco.contexto, altos));
+              }),
+              14);
+}
+
+// To the last one that is stored, and no further.
+TEST_F(Polinomios, LosTérminosYElGradoTienenUnMáximo) {
+    Monomios<Entero> términos;
+    for (std::size_t i = MáximoTérminosPolinomio; i > 0; --i)
+        términos.push_back({static_cast<double>(i), 1});
+    EXPECT_EQ(DevGrado(DevExacto(términos, 1)), MáximoTérminosPolinomio);
+    términos.push_back({0, 1});
+    EXPECT_EQ(DevFallo([&] { DevExacto(términos, 1); }), 14);
+    EXPECT_EQ(DevDenso({{MáximoTérminosPolinomio, 1}, {0, 2}}).size(), MáximoTérminosPolinomio + 1);
+    EXPECT_EQ(DevFallo([&] { DevDenso({{MáximoTérminosPolinomio + 1, 1}}); }), 14);
 }
 
 TEST_F(Polinomios, ElVigilanteCortaUnProductoLargo) {
