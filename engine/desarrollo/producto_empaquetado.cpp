@@ -169,13 +169,10 @@ namespace {
 using EnteroDoble = Entero128;
 
 Coeficiente ACoeficiente(EnteroDoble valor) {
-    if (const auto corto = static_cast<std::int64_t>(valor);
-        EnteroDoble{corto} == valor && corto != INT64_MIN)
+    const auto corto = static_cast<std::int64_t>(valor);
+    if (EnteroDoble{corto} == valor && corto != INT64_MIN)
         return corto;
-    constexpr int Bits = 62;
-    const auto alto = static_cast<std::int64_t>(valor >> Bits);
-    const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));
-    return alto == 0 ? Coeficiente(bajo) : Coeficiente(Entero(alto).Desplazado(Bits) + bajo, 1);
+    return {Entero::DesdeAncho(valor), 1};
 }
 const Coeficiente& ACoeficiente(const Coeficiente& valor) {
     return valor;

@@ -18,13 +18,6 @@ using EnteroDoble = Entero128;
 
 constexpr std::uint32_t MáximoDenominador = std::numeric_limits<std::uint32_t>::max();
 
-Entero DesdeEnteroDoble(EnteroDoble valor) {
-    constexpr int BitsBajos = 62;
-    const auto alto = static_cast<std::int64_t>(valor >> BitsBajos);
-    const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << BitsBajos));
-    return Entero(alto).Desplazado(BitsBajos) + Entero(bajo);
-}
-
 std::uint64_t Magnitud64(std::int64_t valor) {
     return valor < 0 ? std::uint64_t{0} - static_cast<std::uint64_t>(valor)
                      : static_cast<std::uint64_t>(valor);
@@ -260,8 +253,8 @@ Coeficiente& Coeficiente::SumaGeneral(Coeficiente otro) {
         denominador_ = static_cast<std::uint32_t>(denominador);
         return *this;
     }
-    return *this = DesdeFracción(DesdeEnteroDoble(numerador),
-                                 DesdeEnteroDoble(static_cast<EnteroDoble>(denominador)));
+    return *this = DesdeFracción(Entero::DesdeAncho(numerador),
+                                 Entero::DesdeAncho(static_cast<EnteroDoble>(denominador)));
 }
 
 Coeficiente Coeficiente::Multiplica(const Coeficiente& a, const Coeficiente& b) {
@@ -288,7 +281,7 @@ Coeficiente Coeficiente::Multiplica(const Coeficiente& a, const Coeficiente& b) 
         c.denominador_ = static_cast<std::uint32_t>(denominador);
         return c;
     }
-    return DesdeFracción(DesdeEnteroDoble(numerador), DesdeEnteroDoble(denominador));
+    return DesdeFracción(Entero::DesdeAncho(numerador), Entero::DesdeAncho(denominador));
 }
 
 Coeficiente Coeficiente::Inverso() const {

@@ -57,6 +57,20 @@ Entero Entero::DesdeDouble(double valor) {
     return entero;
 }
 
+Entero Entero::DesdeAncho(Entero128 valor) {
+    if (const auto corto = static_cast<std::int64_t>(valor); Entero128{corto} == valor)
+        return corto;
+    constexpr int BitsDePalabra = 64;
+    auto baja = static_cast<Palabra>(valor);
+    auto alta = static_cast<Palabra>(valor >> BitsDePalabra);
+    const bool negativo = valor < 0;
+    if (negativo) { // the opposite of the lowest one is no Entero128
+        baja = ~baja + 1;
+        alta = ~alta + (baja == 0 ? 1 : 0);
+    }
+    return DesdeMagnitud({baja, alta}, negativo);
+}
+
 Entero Entero::DesdeMagnitud(Magnitud magnitud, bool negativo) {
     QuitaCerosAltos(magnitud);
     Entero entero;

@@ -3,6 +3,7 @@
 // words (magnitud.h).
 #pragma once
 
+#include "engine/numeros/ancho128.h"
 #include "engine/numeros/magnitud.h"
 
 #include <cstddef>
@@ -16,6 +17,9 @@ public:
 
     // A finite Double without a fractional part.
     static Entero DesdeDouble(double valor);
+
+    // What products and sums of two words come to.
+    static Entero DesdeAncho(Entero128 valor);
 
     bool EsCero() const { return grande_.empty() && pequeño_ == 0; }
     bool EsUno() const { return grande_.empty() && pequeño_ == 1; }

@@ -20,15 +20,6 @@ struct PrimoDeTransformada {
 constexpr PrimoDeTransformada Primero{4179340454199820289U, 3}; // 29 * 2^57 + 1
 constexpr PrimoDeTransformada Segundo{1945555039024054273U, 5}; // 27 * 2^56 + 1
 
-Entero DesdeEnteroDoble(EnteroDoble valor) {
-    if (const auto corto = static_cast<std::int64_t>(valor); EnteroDoble{corto} == valor)
-        return corto;
-    constexpr int Bits = 62;
-    const auto alto = static_cast<std::int64_t>(valor >> Bits);
-    const auto bajo = static_cast<std::int64_t>(valor - (EnteroDoble{alto} << Bits));
-    return Entero(alto).Desplazado(Bits) + Entero(bajo);
-}
-
 class Transformada {
 public:
     using Resto = CampoPrimo::Resto;
@@ -109,7 +100,7 @@ std::vector<Entero> MultiplicaPorTérminos(std::span<const std::int64_t> a,
     std::vector<Entero> producto;
     producto.reserve(sumas.size());
     for (const EnteroDoble suma : sumas)
-        producto.push_back(DesdeEnteroDoble(suma));
+        producto.push_back(Entero::DesdeAncho(suma));
     return producto;
 }
 
@@ -134,7 +125,7 @@ std::vector<Entero> MultiplicaPorTransformadas(std::span<const std::int64_t> a,
         EnteroDoble valor = EnteroDoble{t} * Segundo.primo + r;
         if (valor > módulo / 2)
             valor -= módulo;
-        producto.push_back(DesdeEnteroDoble(valor));
+        producto.push_back(Entero::DesdeAncho(valor));
     }
     return producto;
 }

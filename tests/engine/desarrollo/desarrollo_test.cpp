@@ -181,6 +181,18 @@ TEST(Desarrollo, FundeLoQueSeHaceSemejante) {
         Comprueba(caso);
 }
 
+// Products of nineteen digits need all of two words.
+TEST(Desarrollo, MultiplicaNúmerosGrandesSinPerderUnBit) {
+    const Caso casos[] = {
+        {"7E18^3", "3.43E+56", "3.43E+56"},
+        {"(7E18*X)^3", "3.43E+56*X^3", "3.43E+56*X^3"},
+        {"(7E18*X+1)^2", "4.9E+37*X^2+1.4E+19*X+1", "4.9E+37*X^2+1.4E+19*X+1"},
+        {"(7E18*X+1)*(8E18*X-1)", "5.6E+37*X^2+1E+18*X-1", "5.6E+37*X^2+1E+18*X-1"},
+    };
+    for (const Caso& caso : casos)
+        Comprueba(caso);
+}
+
 TEST(Desarrollo, CancelaLoQueElTextoDejaIgual) {
     const Caso casos[] = {
         {"1E20-4/(X+1)", "1E+20", "1E+20-4/(X+1)"},

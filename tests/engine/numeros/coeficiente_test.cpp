@@ -24,6 +24,18 @@ int DevError(auto f) {
     return 0;
 }
 
+TEST(Coeficiente, LosProductosDeDosPalabrasSonLosDeLosEnteros) {
+    for (const std::int64_t a : {INT64_MAX, std::int64_t{7'000'000'000'000'000'000},
+                                 std::int64_t{6'521'908'912'666'391'107}, -INT64_MAX})
+        for (const std::int64_t b : {INT64_MAX, std::int64_t{7'000'000'000'000'000'000},
+                                     std::int64_t{-6'521'908'912'666'391'106}}) {
+            EXPECT_EQ(Coeficiente(a) * Coeficiente(b), Coeficiente(Entero(a) * Entero(b), 1));
+            const Entero de = 4'294'967'291; // the largest prime of 32 bits
+            EXPECT_EQ(Coeficiente(a, de) + Coeficiente(b, 3),
+                      Coeficiente(Entero(a) * 3 + Entero(b) * de, de * 3));
+        }
+}
+
 TEST(Coeficiente, SumaYMultiplicaSinPerderNada) {
     Coeficiente suma;
     for (int i = 0; i < 7; ++i)

@@ -25,6 +25,23 @@ Entero DevAleatorio(std::mt19937_64& azar, std::uint64_t bits) {
     return número;
 }
 
+// All of them, up to the last bit.
+TEST(Entero, SeHaceDeNúmerosDe128Bits) {
+    const Entero128 uno = 1;
+    for (int bits = 0; bits < 127; ++bits)
+        for (const int resto : {-1, 0, 1})
+            for (const int signo : {1, -1}) {
+                const Entero128 ancho = ((uno << bits) + resto) * signo;
+                Entero esperado = Entero(1).Desplazado(static_cast<std::size_t>(bits)) + resto;
+                if (signo < 0)
+                    esperado.CambiaSigno();
+                EXPECT_EQ(Entero::DesdeAncho(ancho), esperado) << bits << ", " << resto;
+            }
+    Entero menor = Entero(1).Desplazado(127);
+    menor.CambiaSigno();
+    EXPECT_EQ(Entero::DesdeAncho(-((uno << 126) - 1) * 2 - 2), menor);
+}
+
 TEST(Entero, LosPequeñosSeComportanComoLosDelProcesador) {
     constexpr std::int64_t Mínimo = std::numeric_limits<std::int64_t>::min();
     constexpr std::int64_t Máximo = std::numeric_limits<std::int64_t>::max();
