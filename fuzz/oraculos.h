@@ -7,6 +7,7 @@
 #include "tests/valor_acotado.h"
 
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -33,6 +34,26 @@ inline std::optional<Programa> CompilaEscrito(std::string_view texto) {
     }
 }
 
+// The text with a factor 1 for every term that has no number in front, which stands for another
+// that rounds to it: as a product of a number that is not whole, since whole ones count as exact.
+inline std::string ConUnos(std::string_view texto) {
+    std::string conUnos;
+    bool empieza = true; // a term
+    for (std::size_t i = 0; i < texto.size(); ++i) {
+        const char c = texto[i];
+        const bool esSigno = c == '+' || c == '-';
+        if (empieza && !esSigno && c != '.' && std::isdigit(static_cast<unsigned char>(c)) == 0)
+            conUnos += "(2*.5)*";
+        const char anterior = i > 0 ? texto[i - 1] : '(';
+        const bool esExponente = anterior == 'E' && i > 1 && texto[i - 2] != '(' &&
+                                 std::isalpha(static_cast<unsigned char>(texto[i - 2])) == 0;
+        empieza = c == '(' || (esSigno && !esExponente && anterior != '^' && anterior != '*' &&
+                               anterior != '/');
+        conUnos += c;
+    }
+    return conUnos;
+}
+
 // What a text may leave out because it rounds to 0.
 struct Licencia {
     bool términos = false; // of a polynomial: the points within (-1, 1) are judged, where the
@@ -45,7 +66,7 @@ struct Licencia {
 inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos,
                             const Licencia& licencia = {}) {
     const Programa a = CompilaExpresión(typed);
-    const std::optional<Programa> b = CompilaEscrito(written);
+    const std::optional<Programa> b = CompilaEscrito(ConUnos(written));
     if (!b)
         return;
     const EvaluadorAcotado exacto(a, {});
