@@ -6,6 +6,7 @@
 #include "fuzz/entrada.h"
 #include "tests/valor_acotado.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
@@ -34,24 +35,36 @@ inline std::optional<Programa> CompilaEscrito(std::string_view texto) {
     }
 }
 
-// The text with a factor 1 for every term that has no number in front, which stands for another
-// that rounds to it: as a product of a number that is not whole, since whole ones count as exact.
-inline std::string ConUnos(std::string_view texto) {
-    std::string conUnos;
+// The text with the whole number in front of every term, or the 1 that is not written there, as a
+// sum with numbers that are not whole: it may stand for another that rounds to it, while whole
+// numbers count as exact elsewhere.
+inline std::string ConEnterosRedondeados(std::string_view texto) {
+    std::string redondeado;
     bool empieza = true; // a term
     for (std::size_t i = 0; i < texto.size(); ++i) {
         const char c = texto[i];
         const bool esSigno = c == '+' || c == '-';
-        if (empieza && !esSigno && c != '.' && std::isdigit(static_cast<unsigned char>(c)) == 0)
-            conUnos += "(2*.5)*";
+        if (empieza && !esSigno) {
+            const std::size_t fin =
+                std::min(texto.find_first_not_of("0123456789", i), texto.size());
+            const bool esEntero = fin == texto.size() || (texto[fin] != '.' && texto[fin] != 'E');
+            if (fin == i && c != '.')
+                redondeado += "(1-.5+.5)*";
+            if (fin > i && esEntero) {
+                redondeado += '(' + std::string(texto.substr(i, fin - i)) + "-.5+.5)";
+                i = fin - 1;
+                empieza = false;
+                continue;
+            }
+        }
         const char anterior = i > 0 ? texto[i - 1] : '(';
         const bool esExponente = anterior == 'E' && i > 1 && texto[i - 2] != '(' &&
                                  std::isalpha(static_cast<unsigned char>(texto[i - 2])) == 0;
         empieza = c == '(' || (esSigno && !esExponente && anterior != '^' && anterior != '*' &&
                                anterior != '/');
-        conUnos += c;
+        redondeado += c;
     }
-    return conUnos;
+    return redondeado;
 }
 
 // What a text may leave out because it rounds to 0.
@@ -66,7 +79,7 @@ struct Licencia {
 inline void ExigeMismoValor(std::string_view typed, std::string_view written, int dígitos,
                             const Licencia& licencia = {}) {
     const Programa a = CompilaExpresión(typed);
-    const std::optional<Programa> b = CompilaEscrito(ConUnos(written));
+    const std::optional<Programa> b = CompilaEscrito(ConEnterosRedondeados(written));
     if (!b)
         return;
     const EvaluadorAcotado exacto(a, {});
