@@ -57,6 +57,39 @@ TEST(Aplicación, SinIconoDelEscritorioSeDibujaElMismo) {
     EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
 }
 
+// In their square of 24 units: where the strokes end, and where none may be.
+TEST(Aplicación, LosIconosDeLaBarraTienenSusFlechasYSuLente) {
+    const struct {
+        Figura figura;
+        bool ampliar;
+        std::vector<QPointF> con;
+        std::vector<QPointF> sin;
+    } casos[] = {
+        {Figura::EjeX, true, {{6, 8}, {6, 16}, {18, 8}, {18, 16}, {3, 12}, {21, 12}}, {{12, 12}}},
+        {Figura::EjeX, false, {{5, 8}, {5, 16}, {19, 8}, {19, 16}, {9, 12}, {15, 12}}, {{12, 12}}},
+        {Figura::EjeY, true, {{8, 6}, {16, 6}, {8, 18}, {16, 18}, {12, 3}, {12, 21}}, {{12, 12}}},
+        {Figura::EjeY, false, {{8, 5}, {16, 5}, {8, 19}, {16, 19}, {12, 9}, {12, 15}}, {{12, 12}}},
+        {Figura::EjesXY, true, {{4.5, 4.5}, {19.5, 4.5}, {4.5, 19.5}, {19.5, 19.5}}, {{12, 12}}},
+        {Figura::EjesXY, false, {{10, 10}, {14, 10}, {10, 14}, {14, 14}}, {{12, 12}}},
+        {Figura::Gráfica, true, {{3, 10}, {10, 17}, {20, 20}, {7, 10}, {10, 7}}, {{20, 4}}},
+        {Figura::Gráfica, false, {{3, 10}, {10, 17}, {20, 20}, {7, 10}}, {{20, 4}, {10, 7}}},
+    };
+    constexpr int Lado = 96;
+    for (const auto& caso : casos) {
+        const QImage imagen = DevIcono(caso.figura, caso.ampliar).pixmap(Lado, Lado).toImage();
+        const qreal escala = imagen.width() / 24.0;
+        const auto hayTinta = [&](const QPointF& lugar) {
+            return imagen.pixelColor((lugar * escala).toPoint()).alpha() > 128;
+        };
+        const std::string nombre =
+            std::to_string(static_cast<int>(caso.figura)) + (caso.ampliar ? " larger" : " smaller");
+        for (const QPointF& lugar : caso.con)
+            EXPECT_TRUE(hayTinta(lugar)) << nombre << ": " << lugar.x() << ", " << lugar.y();
+        for (const QPointF& lugar : caso.sin)
+            EXPECT_FALSE(hayTinta(lugar)) << nombre << ": " << lugar.x() << ", " << lugar.y();
+    }
+}
+
 TEST(Aplicación, ElIconoDelEscritorioVaDelante) {
     const QString tema = QIcon::themeName();
     const QStringList carpetas = QIcon::themeSearchPaths();

@@ -74,6 +74,18 @@ TEST(RótulosDeLosEjes, HayMásDeTresEnCadaEjeYNingunoTapaAOtro) {
 }
 
 // Every so many, in round numbers; in a row no two come closer than twelve pixels.
+// Where both axes stand on the border as where they cross in the middle.
+TEST(RótulosDeLosEjes, ElOrigenTieneUnSoloRótulo) {
+    for (const double mínimo : {-10.0, 0.0, -20.0}) {
+        const double máximo = mínimo + 20;
+        const Rótulos rótulos =
+            Coloca({400, 300}, 1, {.XMáx = máximo, .XMín = mínimo, .YMáx = máximo, .YMín = mínimo});
+        std::vector<Rótulo> todos = rótulos.enX;
+        todos.insert(todos.end(), rótulos.enY.begin(), rótulos.enY.end());
+        EXPECT_EQ(std::ranges::count(todos, QStringLiteral("0"), &Rótulo::texto), 1) << mínimo;
+    }
+}
+
 TEST(RótulosDeLosEjes, SeRaleanSóloSiNoCaben) {
     const struct {
         double ancho;

@@ -3,6 +3,7 @@
 #include "tests/ui/dialogos.h"
 #include "tests/ui/ventana_de_prueba.h"
 
+#include <QDialogButtonBox>
 #include <QLabel>
 
 namespace quiralto {
@@ -45,6 +46,9 @@ TEST_F(Extremos, UnDatoSinValorDicePorQuéTrasUnaPausa) {
     EXPECT_EQ(DevCaja(0).toolTip(), esperado);
     EXPECT_EQ(DevCaja(0).accessibleDescription(), esperado);
     EXPECT_FALSE(DevCaja(1).EsErrónea());
+    const auto* motivo = formulario.findChild<QLabel*>(QStringLiteral("motivoExtremos"));
+    EXPECT_GT(motivo->y(), DevCaja(3).geometry().bottom());
+    EXPECT_LT(motivo->geometry().bottom(), marco.findChild<QDialogButtonBox*>()->y());
     QTest::keyClick(&DevCaja(0), Qt::Key_Backspace);
     QTest::keyClicks(&DevCaja(0), QStringLiteral("1"));
     EXPECT_EQ(DevMotivo(), QString()); // at once

@@ -4,6 +4,7 @@
 #include "ui/formularios/frm_ayuda.h"
 #include "ui/programa/arranque.h"
 
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QPointer>
@@ -63,12 +64,16 @@ TEST_F(Formularios, AcercaDeNombraElProgramaYSeCierra) {
     Pulsa("AcercaDe");
     auto& acerca = Busca<QWidget>("forAcercaDe");
     EXPECT_TRUE(acerca.isVisible());
-    const QString texto = acerca.findChild<QLabel*>(QStringLiteral("Label1"))->text();
+    const auto* etiqueta = acerca.findChild<QLabel*>(QStringLiteral("Label1"));
+    const QString texto = etiqueta->text();
     EXPECT_TRUE(texto.contains(QStringLiteral("Quiralto")));
     EXPECT_TRUE(texto.contains(QStringLiteral("comentarios y sugerencias")));
     auto* cerrar = acerca.findChild<QPushButton*>(QStringLiteral("Command1"));
     ASSERT_NE(cerrar, nullptr);
     EXPECT_EQ(cerrar->text(), QStringLiteral("Cerrar"));
+    EXPECT_GE(etiqueta->height(), etiqueta->sizeHint().height());
+    EXPECT_GE(etiqueta->width(), etiqueta->sizeHint().width());
+    EXPECT_LT(etiqueta->geometry().bottom(), acerca.findChild<QDialogButtonBox*>()->y());
     const QPointer<QWidget> vigilada(&acerca);
     cerrar->click();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -48,6 +48,16 @@ TEST_F(Teclas, LosBlancosYLoQuePasaDe254SeTraganConPitido) {
     EXPECT_EQ(pitidos, 5);
 }
 
+TEST_F(Teclas, UnTextoNuevoTomaElLugarDelQueHabía) {
+    caja.PonTexto("uno\r\ndos\r\ntres");
+    for (const char* const texto : {"uno\r\ndosis\r\ny más", "un", "otro", ""}) {
+        caja.PonTexto(texto);
+        EXPECT_EQ(caja.DevTexto(), texto);
+    }
+    QTest::keyClick(&caja, Qt::Key_Z, Qt::ControlModifier); // one change, taken back as one
+    EXPECT_EQ(caja.DevTexto(), "otro");
+}
+
 TEST_F(Teclas, LasTeclasDeEdiciónVanPorSuCamino) {
     QTest::keyClicks(&caja, QStringLiteral("ab"));
     QTest::keyClick(&caja, Qt::Key_Return);
