@@ -2,6 +2,7 @@
 
 #include "tests/ui/ventana_de_prueba.h"
 #include "ui/formularios/frm_ayuda.h"
+#include "ui/formularios/frm_quiralto.h"
 #include "ui/programa/arranque.h"
 
 #include <QDialogButtonBox>
@@ -100,6 +101,40 @@ QWidget* DevPresentación() {
         if (ventana->objectName() == QStringLiteral("frmQuiralto"))
             return ventana;
     return nullptr;
+}
+
+// Letter by letter, in the units that they are drawn in: 2.1 pixels each, on the line y = 0.
+TEST(Presentación, TieneElNombreEntero) {
+    constexpr qreal Unidad = 2.1;
+    constexpr qreal Ancho = 88.5;
+    const struct {
+        char letra;
+        std::vector<QPointF> con;
+        std::vector<QPointF> sin;
+    } casos[] = {
+        {'Q', {{-.7, -7.5}, {7.5, -15}, {15.7, -7.5}, {7.5, 0}, {15, 1}}, {{7.5, -7.5}}},
+        {'u', {{20.5, -10}, {28.9, -10}, {28.9, 0}, {24.7, 0}}, {{24.7, -10}, {28.9, 1.7}}},
+        {'i', {{34.2, -10}, {34.2, 0}, {34.2, -14.6}}, {{34.2, -12.3}, {34.2, 1.7}}},
+        {'r', {{39.5, -10}, {39.5, 0}, {43.5, -10}}, {{43.5, -5}, {39.5, 1.7}}},
+        {'a', {{53.7, -10}, {49, -5}, {53.7, 0}, {58.6, -10}, {58.6, 0}}, {{53.7, -5}}},
+        {'l', {{64, -16}, {64, 0}}, {{64, -18.3}, {64, 1.7}}},
+        {'t', {{70.6, -14}, {67.6, -10}, {75, -10}, {73.5, 0}}, {{70.6, -16.3}, {73, -5}}},
+        {'o', {{83.5, -10}, {78.5, -5}, {88.5, -5}, {83.5, 0}}, {{83.5, -5}}},
+    };
+    FrmQuiralto presentación;
+    const QImage imagen = presentación.grab().toImage();
+    ASSERT_EQ(imagen.size(), QSize(480, 320));
+    const auto hayTinta = [&](const QPointF& lugar) {
+        const QPointF origen((480 - Ancho * Unidad) / 2, 320 - 34);
+        const QPointF pixel = origen + lugar * Unidad;
+        return qGray(imagen.pixel(static_cast<int>(pixel.x()), static_cast<int>(pixel.y()))) < 150;
+    };
+    for (const auto& caso : casos) {
+        for (const QPointF& lugar : caso.con)
+            EXPECT_TRUE(hayTinta(lugar)) << caso.letra << ": " << lugar.x() << ", " << lugar.y();
+        for (const QPointF& lugar : caso.sin)
+            EXPECT_FALSE(hayTinta(lugar)) << caso.letra << ": " << lugar.x() << ", " << lugar.y();
+    }
 }
 
 TEST(Arranque, MuestraLaPresentaciónYDejaLaVistaInicial) {
