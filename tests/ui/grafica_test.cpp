@@ -178,6 +178,23 @@ TEST_F(Gráfica, LasBarrasDesplazanYVuelvenACero) {
     EXPECT_EQ(DevExtremos()[0], "5");
 }
 
+// A drag counts once, from where it began to where the bar is let go; the point X follows it.
+TEST_F(Gráfica, LasBarrasDeLosEjesEsperanAQueSeLasSuelte) {
+    auto& barra = Busca<QScrollBar>("hsEjeX");
+    barra.setSliderDown(true);
+    barra.setSliderPosition(2);
+    barra.setSliderPosition(3);
+    EXPECT_EQ(DevExtremos(), (Extremos{"10", "-10", "10", "-10"}));
+    barra.setSliderDown(false);
+    EXPECT_EQ(DevExtremos(), (Extremos{"7", "-13", "10", "-10"}));
+    EXPECT_EQ(barra.value(), 0);
+    auto& punto = Busca<QScrollBar>("hsx");
+    punto.setSliderDown(true);
+    punto.setSliderPosition(punto.value() + 10);
+    EXPECT_EQ(DevTexto("txtPuntoX"), QStringLiteral("-2"));
+    punto.setSliderDown(false);
+}
+
 TEST_F(Gráfica, LaBarraDelPuntoXLoMueveYMuestraLosValores) {
     Define(0, "X^2");
     Define(1, "SQR(X)");
