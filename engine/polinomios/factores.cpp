@@ -3,6 +3,7 @@
 #include "engine/evaluacion/raices.h"
 #include "engine/lenguaje/compila.h"
 #include "engine/lenguaje/termino_texto.h"
+#include "engine/numeros/coeficiente.h"
 #include "engine/numeros/numero.h"
 #include "engine/polinomios/division.h"
 #include "engine/polinomios/mcd.h"
@@ -41,7 +42,7 @@ Polinomio SinRaícesMúltiples(Contexto& contexto, const Polinomio& p) {
 
 struct Raíz {
     double valor;
-    std::optional<RaízExacta> exacta; // none where the polynomial is not exact, or of high degree
+    std::optional<RaízExacta> exacta; // none where the polynomial is not exact
 };
 
 // Whole coefficients, where the signs can be taken exactly.
@@ -55,11 +56,17 @@ std::optional<Denso> SiDenso(const Polinomio& simple) {
     return denso;
 }
 
-// A root that is not looked at exactly: the number of its text where nothing is left there,
-// otherwise all of its digits.
-double DevRaízEnDouble(Contexto& contexto, Programa& programa, const Solución& solución) {
-    const auto valor = DevValor(contexto, programa, solución.redondeada);
-    return valor == 0.0 ? solución.redondeada : solución.raíz;
+// A root of p that is not looked at exactly: the number of its text where that divides p, otherwise
+// all of its digits.
+Raíz DevRaízDeGradoAlto(Contexto& contexto, const Polinomio& p, const Solución& solución) {
+    const double valor = solución.redondeada;
+    if (SiExacto(p) == nullptr)
+        return {solución.raíz, std::nullopt};
+    const Polinomio factor = RestaPolinomios(DevPotenciaDeX(1), DevConstante(valor));
+    const bool esRacional = DivideSiExacta(contexto, p, factor).has_value();
+    const Coeficiente fracción =
+        esRacional ? Coeficiente::DesdeDouble(valor) : Coeficiente::DesdeBits(solución.raíz);
+    return {valor, RaízExacta{fracción.Numerador(), fracción.Denominador(), esRacional}};
 }
 
 // The roots from left to right; never more than the degree, whatever rounding makes of the signs.
@@ -77,7 +84,7 @@ std::vector<Raíz> DevRaíces(Contexto& contexto, const Polinomio& p, double a, 
             break;
         comienzo = DevSiguienteComienzo(*solución, h);
         if (!denso) {
-            raíces.push_back({DevRaízEnDouble(contexto, programa, *solución), std::nullopt});
+            raíces.push_back(DevRaízDeGradoAlto(contexto, p, *solución));
             continue;
         }
         const auto exacta = DevRaízExacta(contexto, *denso, solución->raíz, h);

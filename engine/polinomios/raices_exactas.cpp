@@ -1,5 +1,6 @@
 #include "engine/polinomios/raices_exactas.h"
 
+#include "engine/base/fallos.h"
 #include "engine/polinomios/division.h"
 #include "engine/polinomios/mcd.h"
 
@@ -172,6 +173,8 @@ Polinomio DivideEntreRacional(Contexto& contexto, const Polinomio& p, const Raí
 Polinomio DivideEntreInexactas(Contexto& contexto, const PolinomioExacto& p,
                                const std::vector<RaízExacta>& raíces) {
     constexpr std::size_t BitsDeMás = 128;
+    if (p.términos.front().exponente > static_cast<double>(MáximoTérminosPolinomio))
+        throw ErrorEjecución(EspacioDeCadenasInsuficiente);
     Denso denso(static_cast<std::size_t>(p.términos.front().exponente) + 1);
     for (const auto& [exponente, coeficiente] : p.términos)
         denso[static_cast<std::size_t>(exponente)] = coeficiente.Desplazado(BitsDeMás);

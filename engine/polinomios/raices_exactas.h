@@ -29,7 +29,8 @@ std::optional<RaízExacta> DevRaízExacta(Contexto& contexto, const Denso& p, do
 
 // p divided by (X - root) for each root, of which none is named twice: exactly for those that are
 // rational; for others what is left over is dropped. p has a degree of at least as many as there
-// are roots, and at most MáximoGradoExacto where one is not rational.
+// are roots. Fault: run-time error 14 where one is not rational and the degree is past
+// MáximoTérminosPolinomio.
 Polinomio DivideEntreRaíces(Contexto& contexto, const PolinomioExacto& p,
                             const std::vector<RaízExacta>& raíces);
 

@@ -85,6 +85,18 @@ TEST_F(Factorización, DivideEntreTodosLosDígitosDeUnaRaízDeGradoAlto) {
     EXPECT_TRUE(conMedio.ends_with("+2*X^2+2*X+2)"));
 }
 
+// What is left of rounding would grow with the powers of a root beyond 1.
+TEST_F(Factorización, ElCocienteDeGradoAltoNoCrece) {
+    // (X^3-2*X^2+X-1)*(X^1140-3*X^642+1)
+    const std::string factores = Factoriza("X^1143-2*X^1142+X^1141-X^1140-3*X^645+6*X^644-3*X^643+"
+                                           "3*X^642+X^3-2*X^2+X-1",
+                                           -3, 3);
+    ASSERT_TRUE(factores.starts_with("(X+1.00201533)*(X-.99856738)*(X-1.75487767)*(X^1140-"));
+    EXPECT_EQ(factores.find('E'), std::string::npos);
+    const double último = std::stod(factores.substr(factores.find_last_of("+-")));
+    EXPECT_NEAR(último * 1.00201533 * -.99856738 * -1.75487767, -1, 1e-7);
+}
+
 TEST_F(Factorización, SiempreTermina) {
     // Few digits: the rounded root stands far from the root; a step that is nearly nothing.
     banco.contexto.DígitosRedondeo = 0;
