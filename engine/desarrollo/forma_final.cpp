@@ -72,10 +72,6 @@ Literal Asienta(TablaSímbolos& tabla, const Literal& literal) {
     return asentado;
 }
 
-} // namespace
-
-namespace {
-
 // The quotient of a term becomes another, whose text is not written yet.
 void PonCociente(TablaSímbolos& tabla, Término& término, Base cociente) {
     const Términos denominador = {{cociente.signoAbajo ? -1 : 1, cociente.denominador}};

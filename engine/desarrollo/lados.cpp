@@ -156,7 +156,8 @@ Términos DevUnCociente(TablaSímbolos& tabla, const Términos& suma) {
 }
 
 // Numbers that the text cuts can make one side a multiple of the other: what is written is reduced,
-// and cut again, until it stays. Each time there is less to be reduced.
+// and cut again, until it stays. The passes are bounded: a side is cut as a group and as a sum of
+// terms, which need not agree in the last digit.
 std::string EscribeLados(TablaSímbolos& tabla, Lados lados, Sitio sitio) {
     if (lados.numerador.empty())
         return "0";

@@ -108,8 +108,8 @@ void EscalaSuma(Términos& suma, const Coeficiente& factor);
 // is not exact. The sum is not empty.
 Coeficiente DevContenido(const Términos& suma);
 
-// Divides a sum by its content, which is returned, so that its coefficients are whole and have no
-// common factor.
+// Divides a sum by its content, which is returned: its coefficients, where all are exact, become
+// whole and have no common factor.
 Coeficiente SacaContenido(Términos& suma);
 
 } // namespace quiralto

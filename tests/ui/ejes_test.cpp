@@ -73,7 +73,6 @@ TEST(RótulosDeLosEjes, HayMásDeTresEnCadaEjeYNingunoTapaAOtro) {
     }
 }
 
-// Every so many, in round numbers; in a row no two come closer than twelve pixels.
 // Where both axes stand on the border as where they cross in the middle.
 TEST(RótulosDeLosEjes, ElOrigenTieneUnSoloRótulo) {
     for (const double mínimo : {-10.0, 0.0, -20.0}) {
@@ -86,6 +85,7 @@ TEST(RótulosDeLosEjes, ElOrigenTieneUnSoloRótulo) {
     }
 }
 
+// Every so many, in round numbers; in a row no two come closer than twelve pixels.
 TEST(RótulosDeLosEjes, SeRaleanSóloSiNoCaben) {
     const struct {
         double ancho;
